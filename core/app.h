@@ -1,0 +1,45 @@
+// The process-wide values every part of the program shares, and the system
+// they reach the world through.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "settings.h"
+#include "system.h"
+#include "winlist.h"
+
+namespace orvane {
+
+inline constexpr wchar_t kProgramTitle[] = L"Orvane";
+inline constexpr wchar_t kSettingsFileName[] = L"\\Orvane.ini";
+
+class App {
+public:
+    explicit App(System& system) : sys(system) {}
+
+    System& sys;
+    Settings settings;
+
+    // Filled by start-up.
+    std::wstring ProgramFolder;  // without trailing backslash
+    std::wstring SettingsFilePath;
+    std::wstring ListFileFilter;
+    std::int16_t OsVersionCode = 0;
+    std::int16_t OsMinorVersion = 0;
+    std::wstring OsVersionName;
+    std::wstring ProgramFilesFolder;  // with trailing backslash
+    std::wstring DocumentsFolder;     // with trailing backslash
+    WindowRef MainWindowRef = 0;
+
+    // Launch state.
+    std::wstring LaunchPath;
+    std::int16_t LastLaunchResult = 0;
+    std::wstring CurrentProgramPath;
+    std::wstring OfficeProgramPath;
+
+    // Application windows seen at the last running check.
+    WindowList windowList;
+};
+
+}  // namespace orvane

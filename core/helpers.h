@@ -1,0 +1,43 @@
+// Small file, path and system helpers shared by the core.
+#pragma once
+
+#include <string>
+
+namespace orvane {
+
+class App;
+
+// Deletes the file when the path is not empty and the file exists; errors ignored.
+void DeleteFileIfPresent(App& app, const std::wstring& path);
+
+// Adds a backslash unless the path, trimmed of blanks, ends in "\" or "/".
+// Trailing blanks go, leading blanks stay; an empty path becomes "\".
+void EnsureTrailingBackslash(std::wstring& path);
+
+// Everything before the last backslash; empty when there is none.
+std::wstring ParentFolder(const std::wstring& path);
+
+// The part before the first NUL character, or the whole string.
+std::wstring CutAtNul(const std::wstring& text);
+
+// The file name with a leading backslash: the part of the path from its last
+// backslash on ("\name.exe"), or a backslash and the path when it has none.
+std::wstring BackslashFileName(const std::wstring& path);
+
+// The old runtime's Left(s, n) and Mid(s, n) (1-based, forgiving of short strings).
+std::wstring LeftOf(const std::wstring& text, std::size_t count);
+std::wstring MidFrom(const std::wstring& text, std::size_t position);
+
+bool Contains(const std::wstring& text, const std::wstring& part);
+
+// The program's own label for a system version: "Win 7 + later", "Vista",
+// "Win XP", "Win 2000", or nothing.
+std::wstring OsVersionName(int major, int minor);
+
+// Sets OsVersionCode, OsMinorVersion and, when the version has a label, OsVersionName.
+void DetectOsVersion(App& app);
+
+// Sets ProgramFilesFolder and DocumentsFolder, each with a trailing backslash.
+void FindSystemFolders(App& app);
+
+}  // namespace orvane

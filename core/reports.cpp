@@ -1,0 +1,27 @@
+#include "reports.h"
+
+#include "app.h"
+#include "conversions.h"
+
+namespace orvane {
+
+void ReportFileNotFound(App& app, const std::wstring& path, const std::optional<std::wstring>& title) {
+    const std::wstring shown = path.empty() ? L"( Filename empty! )" : path;
+    app.sys.showMessage(L"Cannot locate the following program/file:\r\n\r\n" + shown + L"\r\n\r\n",
+                        title.value_or(kProgramTitle), MessageIcon::Critical, MessageButtons::Ok);
+    app.sys.restoreCursor();
+}
+
+void ReportFileError(App& app, const std::wstring& path, const std::optional<std::wstring>& operation) {
+    const std::wstring shown = TrimBlanks(path).empty() ? L"( no name specified or name is empty ! )" : path;
+    const std::wstring verb = operation ? L"delete" : L"save";
+    const std::wstring description = app.sys.lastErrorDescription();
+    const std::wstring reason = description.empty() ? L"(unknown)" : L"\"" + description + L"\"";
+    app.sys.beep();
+    app.sys.showMessage(L"Cannot " + verb + L" this file :\r\n\r\n" + shown +
+                            L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n" + reason +
+                            L"\r\n",
+                        kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
+}
+
+}  // namespace orvane

@@ -1,0 +1,19 @@
+// Which skin bitmap the program uses.
+#pragma once
+
+#include <string>
+
+namespace orvane {
+
+class System;
+
+inline constexpr wchar_t kDefaultSkinName[] = L"\\Skin_Alba.bmp";
+
+// A skin path is usable when it names an existing file ending in ".bmp" (any case).
+bool IsUsableSkin(System& sys, const std::wstring& path);
+
+// The skin to use at start-up: the chosen one when usable, otherwise the
+// default skin in the program folder.
+std::wstring StartupSkin(System& sys, const std::wstring& skinFile, const std::wstring& programFolder);
+
+}  // namespace orvane
