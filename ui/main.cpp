@@ -1,0 +1,37 @@
+// Orvane, the launcher bar of the Tellmark Set.
+#include <windows.h>
+
+#include "app.h"
+#include "helpers.h"
+#include "main_window.h"
+#include "win32_system.h"
+
+namespace {
+
+std::wstring ExecutablePath() {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length < path.size()) return path.substr(0, length);
+        path.resize(path.size() * 2);
+    }
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    orvane::ui::Win32System system;
+    orvane::App app(system);
+    app.ProgramFolder = orvane::ParentFolder(ExecutablePath());
+
+    orvane::ui::MainWindow mainWindow(app);
+    if (!mainWindow.open()) return 0;
+    system.setMessageOwner(mainWindow.hwnd());
+
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}

@@ -1,0 +1,60 @@
+// frmMain: the launcher bar. Its load and unload run the start-up and
+// shut-down sequences of the core through the MainWindowHost interface.
+#pragma once
+
+#include "app.h"
+#include "handles.h"
+#include "lifecycle.h"
+#include "window_base.h"
+
+namespace orvane::ui {
+
+// The class names a second copy looks for.
+inline constexpr wchar_t kApplicationWindowClass[] = L"Orvane.Application";
+inline constexpr wchar_t kMainWindowClass[] = L"Orvane.Main";
+// The bar's own background, set at design time.
+inline constexpr COLORREF kMainBackColor = RGB(240, 240, 240);
+
+class MainWindow : public WindowBase, public MainWindowHost {
+public:
+    explicit MainWindow(App& app);
+
+    // Creates and loads the window; false when this copy handed over or failed.
+    bool open();
+
+private:
+    LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void unload();
+    void keepApplicationWindowBelow();
+    void setPixelRect(int left, int top, int width, int height, UINT flags);
+    RECT pixelRect();
+
+    // MainWindowHost
+    bool earlierInstanceRunning() override;
+    std::wstring programTitle() override;
+    void setProgramTitle(const std::wstring& title) override;
+    WindowRef findApplicationWindow(const std::wstring& title) override;
+    void endProcessNow() override;
+    void initCommonControls() override;
+    WindowRef handle() override;
+    void setTop(std::int32_t twips) override;
+    void setLeft(std::int32_t twips) override;
+    void setWidth(std::int32_t twips) override;
+    void setHeight(std::int32_t twips) override;
+    TwipsRect geometry() override;
+    TwipsRect workArea() override;
+    std::int32_t backColor() override;
+    void layIconStrip() override;
+    void applySkin(const std::wstring& skinFile) override;
+    void buildMenuBar() override;
+
+    App& app_;
+    MainWindowState state_;
+    UniqueModule shell32_;
+    UniqueHandle instanceMutex_;
+    UniqueWindow applicationWindow_;
+    UniqueBrush background_;
+    bool unloaded_ = false;
+};
+
+}  // namespace orvane::ui

@@ -1,0 +1,284 @@
+#include "win32_system.h"
+
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <vector>
+
+#include "handles.h"
+
+namespace orvane::ui {
+
+namespace {
+
+// The old runtime's numbers for a file that could not be created or written.
+FileError RuntimeFileError(DWORD error) {
+    switch (error) {
+    case ERROR_FILE_NOT_FOUND: return 53;
+    case ERROR_PATH_NOT_FOUND: return 76;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION: return 70;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL: return 61;
+    default: return 75;
+    }
+}
+
+HKEY RootKey(RegistryRoot root) {
+    switch (root) {
+    case RegistryRoot::ClassesRoot: return HKEY_CLASSES_ROOT;
+    case RegistryRoot::CurrentUser: return HKEY_CURRENT_USER;
+    case RegistryRoot::LocalMachine: return HKEY_LOCAL_MACHINE;
+    case RegistryRoot::Users: return HKEY_USERS;
+    }
+    return HKEY_LOCAL_MACHINE;
+}
+
+const wchar_t* OrNull(const std::wstring& text) { return text.empty() ? nullptr : text.c_str(); }
+
+std::optional<std::wstring> FindExecutable(const std::wstring& name) {
+    wchar_t found[MAX_PATH * 4];
+    const DWORD length = SearchPathW(nullptr, name.c_str(), L".exe", MAX_PATH * 4, found, nullptr);
+    if (length == 0 || length >= MAX_PATH * 4) return std::nullopt;
+    const DWORD attributes = GetFileAttributesW(found);
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY)) return std::nullopt;
+    return std::wstring(found, length);
+}
+
+// The program a command line starts, found the way the system reads an
+// unquoted path with blanks: ever longer prefixes up to a blank. Naming it
+// separately keeps the command line exactly as built; some systems quote the
+// program path in it otherwise.
+std::optional<std::wstring> ProgramOfCommandLine(const std::wstring& commandLine) {
+    const std::size_t start = commandLine.find_first_not_of(L" \t");
+    if (start == std::wstring::npos) return std::nullopt;
+    if (commandLine[start] == L'"') {
+        const std::size_t close = commandLine.find(L'"', start + 1);
+        return FindExecutable(commandLine.substr(start + 1, close == std::wstring::npos ? close : close - start - 1));
+    }
+    for (std::size_t blank = start;;) {
+        blank = commandLine.find(L' ', blank + 1);
+        if (auto found = FindExecutable(commandLine.substr(start, blank - start))) return found;
+        if (blank == std::wstring::npos) return std::nullopt;
+    }
+}
+
+}  // namespace
+
+bool Win32System::remember(bool ok) {
+    lastError_ = ok ? 0 : GetLastError();
+    return ok;
+}
+
+bool Win32System::fileExists(const std::wstring& path) {
+    if (path.empty()) return false;
+    WIN32_FIND_DATAW found;
+    UniqueFind search(FindFirstFileW(path.c_str(), &found));
+    return search && !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool Win32System::pathExists(const std::wstring& path) {
+    return !path.empty() && GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+std::optional<std::string> Win32System::readFile(const std::wstring& path) {
+    UniqueFile file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!remember(bool(file))) return std::nullopt;
+    LARGE_INTEGER size{};
+    if (!remember(GetFileSizeEx(file.get(), &size))) return std::nullopt;
+    std::string bytes;
+    bytes.resize(static_cast<std::size_t>(size.QuadPart));
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const DWORD chunk = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, 1u << 30));
+        DWORD got = 0;
+        if (!remember(ReadFile(file.get(), bytes.data() + done, chunk, &got, nullptr)) || got == 0) break;
+        done += got;
+    }
+    bytes.resize(done);
+    return bytes;
+}
+
+FileError Win32System::writeFile(const std::wstring& path, const std::string& bytes) {
+    UniqueFile file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!remember(bool(file))) return RuntimeFileError(lastError_);
+    DWORD written = 0;
+    if (!remember(WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)))
+        return RuntimeFileError(lastError_);
+    return written == bytes.size() ? 0 : RuntimeFileError(ERROR_DISK_FULL);
+}
+
+bool Win32System::deleteFile(const std::wstring& path) { return remember(DeleteFileW(path.c_str())); }
+
+std::wstring Win32System::currentFolder() {
+    std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
+    folder.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
+    return folder;
+}
+
+std::wstring Win32System::lastErrorDescription() {
+    if (lastError_ == 0) return {};
+    wchar_t* text = nullptr;
+    const DWORD length = FormatMessageW(
+        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+        lastError_, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    std::wstring description(text ? text : L"", length);
+    LocalFree(text);
+    while (!description.empty() && (description.back() == L'\n' || description.back() == L'\r'))
+        description.pop_back();
+    return description;
+}
+
+std::wstring Win32System::fromAnsi(const std::string& bytes) {
+    if (bytes.empty()) return {};
+    const int size = static_cast<int>(bytes.size());
+    std::wstring text(MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, nullptr, 0), L'\0');
+    MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), static_cast<int>(text.size()));
+    return text;
+}
+
+std::string Win32System::toAnsi(const std::wstring& text) {
+    if (text.empty()) return {};
+    const int size = static_cast<int>(text.size());
+    // No best fit: a character the code page lacks becomes "?", never a look-alike
+    // that would name another file.
+    constexpr DWORD kFlags = WC_NO_BEST_FIT_CHARS;
+    std::string bytes(WideCharToMultiByte(CP_ACP, kFlags, text.data(), size, nullptr, 0, nullptr, nullptr), '\0');
+    WideCharToMultiByte(CP_ACP, kFlags, text.data(), size, bytes.data(), static_cast<int>(bytes.size()), nullptr,
+                        nullptr);
+    return bytes;
+}
+
+bool Win32System::shellExecute(const ShellExecuteRequest& request) {
+    SHELLEXECUTEINFOW info{};
+    info.cbSize = sizeof info;
+    info.hwnd = ToHwnd(request.owner);
+    info.lpVerb = request.verb.c_str();
+    info.lpFile = request.file.c_str();
+    info.lpParameters = OrNull(request.parameters);
+    info.lpDirectory = OrNull(request.directory);
+    info.nShow = request.showCode;
+    return remember(ShellExecuteExW(&info));
+}
+
+std::optional<long long> Win32System::startCommandLine(const std::wstring& commandLine, int showCode) {
+    std::wstring writable = commandLine;  // CreateProcessW may write into it
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = static_cast<WORD>(showCode);
+    PROCESS_INFORMATION process{};
+    const auto program = ProgramOfCommandLine(commandLine);
+    if (!remember(CreateProcessW(program ? program->c_str() : nullptr, writable.data(), nullptr, nullptr, FALSE, 0,
+                                 nullptr, nullptr, &startup, &process)))
+        return std::nullopt;
+    UniqueHandle processHandle(process.hProcess), threadHandle(process.hThread);
+    return process.dwProcessId;
+}
+
+long long Win32System::shellVerb(WindowRef owner, const std::wstring& verb, const std::wstring& file,
+                                 const std::wstring& directory, int showCode) {
+    const auto result = reinterpret_cast<INT_PTR>(
+        ShellExecuteW(ToHwnd(owner), verb.c_str(), file.c_str(), nullptr, OrNull(directory), showCode));
+    remember(result > 32);
+    return result;
+}
+
+std::vector<TopLevelWindow> Win32System::topLevelWindows() {
+    std::vector<TopLevelWindow> windows;
+    EnumWindows(
+        [](HWND handle, LPARAM context) -> BOOL {
+            TopLevelWindow window;
+            window.handle = ToRef(handle);
+            window.visible = IsWindowVisible(handle);
+            window.hasParent = GetParent(handle) != nullptr;
+            window.hasOwner = GetWindow(handle, GW_OWNER) != nullptr;
+            window.exStyle = static_cast<std::uint32_t>(GetWindowLongW(handle, GWL_EXSTYLE));
+            wchar_t title[256];
+            window.title.assign(title, static_cast<std::size_t>(GetWindowTextW(handle, title, 256)));
+            reinterpret_cast<std::vector<TopLevelWindow>*>(context)->push_back(std::move(window));
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+bool Win32System::bringToForeground(WindowRef window) { return SetForegroundWindow(ToHwnd(window)); }
+
+WindowRef Win32System::windowAbove(WindowRef window) {
+    return window ? ToRef(GetWindow(ToHwnd(window), GW_HWNDPREV)) : 0;
+}
+
+void Win32System::restoreIfMinimised(WindowRef window) {
+    if (window && IsIconic(ToHwnd(window))) OpenIcon(ToHwnd(window));
+}
+
+std::optional<std::wstring> Win32System::registryString(RegistryRoot root, const std::wstring& subKey,
+                                                        const std::wstring& valueName) {
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(RootKey(root), subKey.c_str(), 0, KEY_QUERY_VALUE, &opened) != ERROR_SUCCESS)
+        return std::nullopt;
+    UniqueKey key(opened);
+    DWORD type = 0, size = 0;
+    if (RegQueryValueExW(key.get(), valueName.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS ||
+        type != REG_SZ)
+        return std::nullopt;
+    std::wstring value(size / sizeof(wchar_t) + 1, L'\0');
+    DWORD bytes = static_cast<DWORD>(value.size() * sizeof(wchar_t));
+    if (RegQueryValueExW(key.get(), valueName.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(value.data()),
+                         &bytes) != ERROR_SUCCESS)
+        return std::nullopt;
+    return value.substr(0, value.find(L'\0'));
+}
+
+std::wstring Win32System::specialFolder(int csidl) {
+    PIDLIST_ABSOLUTE list = nullptr;
+    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &list))) return {};
+    UniqueItemList owned(list);
+    std::wstring path(MAX_PATH, L'\0');
+    if (!SHGetPathFromIDListW(owned.get(), path.data())) return {};
+    return path;
+}
+
+OsVersion Win32System::osVersion() {
+    OSVERSIONINFOW info{};
+    info.dwOSVersionInfoSize = sizeof info;
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+    if (!GetVersionExW(&info)) return {};
+#pragma GCC diagnostic pop
+    return {static_cast<int>(info.dwMajorVersion), static_cast<int>(info.dwMinorVersion)};
+}
+
+MessageAnswer Win32System::showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
+                                       MessageButtons buttons) {
+    static constexpr UINT kIcons[] = {0, MB_ICONHAND, MB_ICONEXCLAMATION, MB_ICONQUESTION, MB_ICONASTERISK};
+    static constexpr UINT kButtons[] = {MB_OK, MB_OKCANCEL, MB_YESNO, MB_YESNOCANCEL};
+    HWND owner = messageOwner_ && IsWindowVisible(messageOwner_) ? messageOwner_ : nullptr;
+    switch (MessageBoxW(owner, text.c_str(), caption.c_str(),
+                        kIcons[static_cast<int>(icon)] | kButtons[static_cast<int>(buttons)])) {
+    case IDCANCEL: return MessageAnswer::Cancel;
+    case IDYES: return MessageAnswer::Yes;
+    case IDNO: return MessageAnswer::No;
+    default: return MessageAnswer::Ok;
+    }
+}
+
+void Win32System::beep() { MessageBeep(MB_OK); }
+
+void Win32System::restoreCursor() { SetCursor(LoadCursorW(nullptr, IDC_ARROW)); }
+
+void Win32System::processPendingEvents() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));  // leave it for the main loop
+            return;
+        }
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+}  // namespace orvane::ui

@@ -1,0 +1,48 @@
+// The system interface implemented with Win32.
+#pragma once
+
+#include <windows.h>
+
+#include "system.h"
+
+namespace orvane::ui {
+
+class Win32System : public System {
+public:
+    // Message boxes are owned by this window while it is visible.
+    void setMessageOwner(HWND owner) { messageOwner_ = owner; }
+
+    bool fileExists(const std::wstring& path) override;
+    bool pathExists(const std::wstring& path) override;
+    std::optional<std::string> readFile(const std::wstring& path) override;
+    FileError writeFile(const std::wstring& path, const std::string& bytes) override;
+    bool deleteFile(const std::wstring& path) override;
+    std::wstring currentFolder() override;
+    std::wstring lastErrorDescription() override;
+    std::wstring fromAnsi(const std::string& bytes) override;
+    std::string toAnsi(const std::wstring& text) override;
+    bool shellExecute(const ShellExecuteRequest& request) override;
+    std::optional<long long> startCommandLine(const std::wstring& commandLine, int showCode) override;
+    long long shellVerb(WindowRef owner, const std::wstring& verb, const std::wstring& file,
+                        const std::wstring& directory, int showCode) override;
+    std::vector<TopLevelWindow> topLevelWindows() override;
+    bool bringToForeground(WindowRef window) override;
+    WindowRef windowAbove(WindowRef window) override;
+    void restoreIfMinimised(WindowRef window) override;
+    std::optional<std::wstring> registryString(RegistryRoot root, const std::wstring& subKey,
+                                               const std::wstring& valueName) override;
+    std::wstring specialFolder(int csidl) override;
+    OsVersion osVersion() override;
+    MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
+                              MessageButtons buttons) override;
+    void beep() override;
+    void restoreCursor() override;
+    void processPendingEvents() override;
+
+private:
+    bool remember(bool ok);
+    HWND messageOwner_ = nullptr;
+    DWORD lastError_ = 0;
+};
+
+}  // namespace orvane::ui
