@@ -1,0 +1,42 @@
+// driver.exe: steps of the end-to-end harness for scripts, e.g. the demo run.
+//   driver.exe wait-bar    waits until a bar is shown
+//   driver.exe close-bar   closes the bar as its close box does and waits until it has ended
+#include <cstdio>
+#include <string>
+
+#include "orvane_process.h"
+#include "win_support.h"
+
+using namespace orvane;
+using namespace std::chrono_literals;
+
+namespace {
+
+HWND WaitForBar() {
+    HWND bar = nullptr;
+    testsupport::WaitFor([&] { return (bar = FindWindowW(e2e::kMainWindowClass, nullptr)) && IsWindowVisible(bar); },
+                         30s);
+    return bar;
+}
+
+int CloseBar() {
+    HWND bar = FindWindowW(e2e::kMainWindowClass, nullptr);
+    if (!bar) return 1;
+    DWORD processId = 0;
+    GetWindowThreadProcessId(bar, &processId);
+    HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
+    PostMessageW(bar, WM_CLOSE, 0, 0);
+    const bool ended = process && WaitForSingleObject(process, 30000) == WAIT_OBJECT_0;
+    if (process) CloseHandle(process);
+    return ended ? 0 : 1;
+}
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    const std::wstring step = argc > 1 ? argv[1] : L"";
+    if (step == L"wait-bar") return WaitForBar() ? 0 : 1;
+    if (step == L"close-bar") return CloseBar();
+    std::fprintf(stderr, "usage: driver.exe wait-bar | close-bar\n");
+    return 2;
+}

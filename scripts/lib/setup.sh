@@ -1,0 +1,55 @@
+# Shared set-up for scripts/run and scripts/test: install what is missing from
+# Debian's packages, keep one Wine prefix in the build folder, build.
+set -euo pipefail
+ORVANE_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+export ORVANE_ROOT
+
+say() { printf '== %s\n' "$*"; }
+
+# Installs the Debian packages that are not installed yet; nothing when all are.
+ensure_packages() {
+  local missing=()
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local sudo=()
+  [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+  say "installing ${missing[*]}"
+  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >/dev/null
+  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}" >/dev/null
+}
+
+NATIVE_PACKAGES=(cmake ninja-build g++ libgtest-dev)
+WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine64 xvfb xauth)
+
+build_preset() {
+  say "building ($1)"
+  cmake --preset "$1" >/dev/null
+  cmake --build --preset "$1"
+}
+
+source "$ORVANE_ROOT/scripts/lib/wine-env.sh"
+
+# The prefix is made once; windows close at once without a window manager
+# when Wine manages its own windows (Managed=N).
+ensure_wine_prefix() {
+  if [ ! -f "$WINEPREFIX/system.reg" ]; then
+    say "making the Wine prefix (once)"
+    mkdir -p "$WINEPREFIX"
+    wineboot -i >/dev/null 2>&1
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+    wineserver -w
+  fi
+}
+
+# Runs a command with a private X server, and a Wine server started for it
+# and stopped after it, so no Wine process outlives the display it used.
+with_display() {
+  xvfb-run -a -s "-screen 0 1280x800x24" bash -c '
+    wineserver -k >/dev/null 2>&1 || true
+    wineserver -p >/dev/null 2>&1
+    "$@"; status=$?
+    wineserver -k >/dev/null 2>&1 || true
+    exit $status' with_display "$@"
+}
