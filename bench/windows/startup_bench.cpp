@@ -1,0 +1,222 @@
+// Start-up cost of orvane.exe next to an empty window program (minwin.exe),
+// both started alternately from one staged folder so that they share the same
+// conditions: the time until the window is painted and waits for input, and
+// the peak working set. It reports figures, not a verdict: missing a goal
+// still ends with code 0.
+//
+//   startup_bench [--runs N] [path\to\orvane.exe]     (or ORVANE_EXE)
+//   ORVANE_BENCH_ROOT: where the folder is staged; beside this program if unset.
+#include <windows.h>
+#include <psapi.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cwchar>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "win_support.h"
+
+namespace ts = orvane::testsupport;
+using Clock = std::chrono::steady_clock;
+
+namespace {
+
+constexpr int kMinimumRuns = 5;
+constexpr double kRatioGoal = 1.5;
+constexpr double kSizeGoalKiB = 2048;
+constexpr DWORD kStartTimeoutMs = 30000;
+constexpr DWORD kExitTimeoutMs = 10000;
+
+struct Program {
+    const char* label;
+    std::wstring path;
+    const wchar_t* windowClass;
+    const wchar_t* windowTitle;
+};
+
+struct Sample {
+    double milliseconds;
+    double mebibytes;
+};
+
+// The handles of one started program. A run that fails half-way must not
+// leave its process behind: orvane.exe runs once at a time only.
+class Child {
+public:
+    Child() = default;
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+    ~Child() {
+        if (info.hThread) CloseHandle(info.hThread);
+        if (!info.hProcess) return;
+        if (WaitForSingleObject(info.hProcess, 0) == WAIT_TIMEOUT) {
+            TerminateProcess(info.hProcess, 1);
+            WaitForSingleObject(info.hProcess, kExitTimeoutMs);
+        }
+        CloseHandle(info.hProcess);
+    }
+
+    PROCESS_INFORMATION info{};
+};
+
+// A zero on every line: a valid settings file that names no other file, so
+// start-up shows no message.
+std::string NeutralSettings() {
+    std::string text;
+    for (int line = 0; line < 39; ++line) text += "0\r\n";
+    return text;
+}
+
+void Fail(const Program& program, const char* what) {
+    std::printf("error: %s %s (Windows error %lu)\n", program.label, what, GetLastError());
+}
+
+// One start: clock from CreateProcess until the program idles with its own
+// visible window; the working set is read just before the window is closed.
+std::optional<Sample> StartOnce(const Program& program, const std::wstring& folder) {
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    std::wstring commandLine = L"\"" + program.path + L"\"";
+    Child child;
+
+    const auto started = Clock::now();
+    if (!CreateProcessW(program.path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                        &startup, &child.info)) {
+        Fail(program, "could not be started");
+        return std::nullopt;
+    }
+    if (WaitForInputIdle(child.info.hProcess, kStartTimeoutMs) != 0) {
+        Fail(program, "never waited for input");
+        return std::nullopt;
+    }
+    auto painted = Clock::now();
+
+    // Idle alone could be a message box; only the program's own window counts,
+    // and should it come later, the clock runs until it is there.
+    const DWORD id = child.info.dwProcessId;
+    HWND window = ts::FindProcessWindow(id, program.windowClass, program.windowTitle);
+    if (!window) {
+        ts::WaitFor(
+            [&] {
+                window = ts::FindProcessWindow(id, program.windowClass, program.windowTitle);
+                return window != nullptr;
+            },
+            std::chrono::milliseconds(kStartTimeoutMs));
+        painted = Clock::now();
+    }
+    if (!window) {
+        Fail(program, "showed no window of its own");
+        return std::nullopt;
+    }
+
+    PROCESS_MEMORY_COUNTERS memory{};
+    memory.cb = sizeof memory;
+    if (!GetProcessMemoryInfo(child.info.hProcess, &memory, sizeof memory)) {
+        Fail(program, "gave no memory figures");
+        return std::nullopt;
+    }
+
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    DWORD exitCode = 1;
+    if (WaitForSingleObject(child.info.hProcess, kExitTimeoutMs) != WAIT_OBJECT_0 ||
+        !GetExitCodeProcess(child.info.hProcess, &exitCode) || exitCode != 0) {
+        Fail(program, "did not end cleanly on WM_CLOSE");
+        return std::nullopt;
+    }
+    return Sample{std::chrono::duration<double, std::milli>(painted - started).count(),
+                  static_cast<double>(memory.PeakWorkingSetSize) / (1024.0 * 1024.0)};
+}
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    const std::size_t middle = values.size() / 2;
+    return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+const char* Verdict(bool met) { return met ? "met" : "NOT met"; }
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    int runs = 7;
+    std::wstring orvanePath = ts::EnvironmentValue(L"ORVANE_EXE");
+    for (int i = 1; i < argc; ++i) {
+        if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
+        else orvanePath = argv[i];
+    }
+    if (orvanePath.empty() || runs < kMinimumRuns) {
+        std::printf("usage: startup_bench [--runs N] [orvane.exe]   (N >= %d, default 7; or set ORVANE_EXE)\n",
+                    kMinimumRuns);
+        return 2;
+    }
+
+    std::wstring root = ts::WindowsPath(ts::EnvironmentValue(L"ORVANE_BENCH_ROOT"));
+    if (root.empty()) root = ts::ExeFolder();
+    const std::wstring folder = ts::FreshFolder(root, L"startup bench");
+    ts::CopyInto(ts::WindowsPath(orvanePath), folder, L"orvane.exe");
+    ts::CopyInto(ts::ExeFolder() + L"\\minwin.exe", folder, L"minwin.exe");
+    const std::wstring settingsPath = folder + L"\\Orvane.ini";
+    const std::string settings = NeutralSettings();
+
+    const Program orvane{"orvane.exe", folder + L"\\orvane.exe", L"Orvane.Main", L"Orvane"};
+    const Program empty{"minwin.exe", folder + L"\\minwin.exe", L"Orvane.Bench.Empty", L"Empty"};
+    for (const Program* program : {&orvane, &empty}) {
+        if (!ts::FileExists(program->path)) {
+            Fail(*program, "could not be copied into the bench folder");
+            return 1;
+        }
+    }
+
+    // Each start writes the same settings first: orvane.exe saves its own on
+    // close, and every run should begin from the same file.
+    std::vector<Sample> samples[2];
+    for (int run = 0; run <= runs; ++run) {
+        Sample pair[2];
+        for (int which = 0; which < 2; ++which) {
+            const Program& program = which == 0 ? orvane : empty;
+            ts::WriteBytes(settingsPath, settings);
+            const auto sample = StartOnce(program, folder);
+            if (!sample) return 1;
+            pair[which] = *sample;
+        }
+        if (run == 0) continue;  // the warm-up start fills the caches for both
+        for (int which = 0; which < 2; ++which) samples[which].push_back(pair[which]);
+        std::printf("run %d: orvane.exe %7.1f ms %6.1f MiB | minwin.exe %7.1f ms %6.1f MiB\n", run,
+                    pair[0].milliseconds, pair[0].mebibytes, pair[1].milliseconds, pair[1].mebibytes);
+    }
+
+    double time[2], memory[2];
+    for (int which = 0; which < 2; ++which) {
+        std::vector<double> times, sets;
+        for (const Sample& s : samples[which]) {
+            times.push_back(s.milliseconds);
+            sets.push_back(s.mebibytes);
+        }
+        time[which] = Median(times);
+        memory[which] = Median(sets);
+    }
+    WIN32_FILE_ATTRIBUTE_DATA attributes{};
+    GetFileAttributesExW(orvane.path.c_str(), GetFileExInfoStandard, &attributes);
+    const double sizeKiB =
+        static_cast<double>((static_cast<ULONGLONG>(attributes.nFileSizeHigh) << 32) | attributes.nFileSizeLow) / 1024.0;
+    const double timeRatio = time[0] / time[1];
+    const double memoryRatio = memory[0] / memory[1];
+
+    std::printf("medians of %d alternating runs each, after one warm-up start of each\n", runs);
+    std::printf("orvane.exe: start to first paint %.1f ms, peak working set %.1f MiB\n", time[0], memory[0]);
+    std::printf("minwin.exe (empty window): start to first paint %.1f ms, peak working set %.1f MiB\n", time[1],
+                memory[1]);
+    std::printf("start-up time ratio orvane/empty: %.2f (goal <= %.1f: %s)\n", timeRatio, kRatioGoal,
+                Verdict(timeRatio <= kRatioGoal));
+    std::printf("peak working set ratio orvane/empty: %.2f (goal <= %.1f: %s)\n", memoryRatio, kRatioGoal,
+                Verdict(memoryRatio <= kRatioGoal));
+    std::printf("orvane.exe size: %.0f KiB (goal < %.0f KiB: %s)\n", sizeKiB, kSizeGoalKiB,
+                Verdict(sizeKiB < kSizeGoalKiB));
+    std::fflush(stdout);
+
+    ts::RemoveTree(folder);
+    return 0;
+}
