@@ -30,7 +30,7 @@ bool StartsQuietlyAndCloses(const ProgramFolder& folder) {
 
 TEST(BadSettings, BinaryGarbageIsReadAsWhatItSaysAndRewrittenClean) {
     ProgramFolder folder(L"garbage settings");
-    WriteBytes(folder.settingsFile(), Garbage(64 * 1024));
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), Garbage(64 * 1024)));
     ASSERT_TRUE(StartsQuietlyAndCloses(folder));
     const std::string written = ReadBytes(folder.settingsFile());
     EXPECT_EQ(SplitCrLf(written).size(), 39u);
@@ -43,7 +43,7 @@ TEST(BadSettings, TenMegabytesWithAMegabyteLineAreReadUpToLine39) {
     auto lines = SettingsLines({{4, longLine}, {7, "11"}});
     std::string content = CrLfLines(lines);
     while (content.size() < (10u << 20)) content += Garbage(1 << 16) + "\r\n";
-    WriteBytes(folder.settingsFile(), content);
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
     ASSERT_TRUE(StartsQuietlyAndCloses(folder));
     const auto written = SplitCrLf(ReadBytes(folder.settingsFile()));
     ASSERT_EQ(written.size(), 39u);
@@ -54,7 +54,7 @@ TEST(BadSettings, TenMegabytesWithAMegabyteLineAreReadUpToLine39) {
 TEST(BadSettings, LockedFileIsNeitherReadNorOverwritten) {
     ProgramFolder folder(L"locked settings");
     const std::string content = CrLfLines(SettingsLines({{1, "1500"}, {7, "11"}}));
-    WriteBytes(folder.settingsFile(), content);
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
     HANDLE lock = CreateFileW(folder.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
                               0, nullptr);
     ASSERT_NE(lock, INVALID_HANDLE_VALUE);

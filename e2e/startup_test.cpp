@@ -59,7 +59,7 @@ TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
 TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
     ProgramFolder folder(L"second copy");
     const std::string settings = CrLfLines(SettingsLines({{1, "1500"}, {2, "750"}, {10, "9000"}, {11, "3000"}}));
-    WriteBytes(folder.settingsFile(), settings);
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), settings));
 
     OrvaneProcess first(folder);
     HWND bar = first.waitForMainWindow();
@@ -105,7 +105,7 @@ TEST(StartUp, UnusualSettingsSurviveAStartAndAClose) {
     for (int extra = 40; extra <= 60; ++extra) lines.push_back("line " + std::to_string(extra));
     std::string content = CrLfLines(lines);
     content.resize(content.size() - 2);  // no final line end
-    WriteBytes(folder.settingsFile(), content);
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
 
     OrvaneProcess orvane(folder);
     HWND bar = orvane.waitForMainWindow();
@@ -134,7 +134,7 @@ TEST(StartUp, UnusualSettingsSurviveAStartAndAClose) {
 
 TEST(StartUp, ShortFileWithoutAFinalLineEndKeepsItsLastValue) {
     ProgramFolder folder(L"short settings");
-    WriteBytes(folder.settingsFile(), "0\r\n0\r\nC:\\Deadlines.vrt\r\nhttps://mail.example.org");
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), "0\r\n0\r\nC:\\Deadlines.vrt\r\nhttps://mail.example.org"));
     OrvaneProcess orvane(folder);
     ASSERT_NE(orvane.waitForMainWindow(), nullptr);
     const auto written = SplitCrLf(CloseAndRead(orvane, folder));

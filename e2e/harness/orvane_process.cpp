@@ -1,5 +1,7 @@
 #include "orvane_process.h"
 
+#include <cstdio>
+
 #include "win_support.h"
 
 namespace orvane::e2e {
@@ -32,7 +34,15 @@ OrvaneProcess::~OrvaneProcess() {
 
 HWND OrvaneProcess::waitForMainWindow(std::chrono::milliseconds timeout) const {
     HWND window = nullptr;
-    WaitFor([&] { return (window = FindProcessWindow(id_, kMainWindowClass)) != nullptr; }, timeout);
+    WaitFor([&] { return (window = FindProcessWindow(id_, kMainWindowClass)) != nullptr || waitForExit(0ms); },
+            timeout);
+    if (!window) {  // say why, for the test's log
+        const auto exitCode = waitForExit(0ms);
+        const HWND box = dialog();
+        std::fprintf(stderr, "no bar from process %lu: %s%s\n", id_,
+                     exitCode ? ("it ended with code " + std::to_string(*exitCode)).c_str() : "it still runs",
+                     box ? (", showing: " + Utf8(MessageBoxText(box))).c_str() : "");
+    }
     return window;
 }
 
