@@ -117,6 +117,7 @@ void LoadCustomBrowser(App& app, const std::wstring& target) {
 }
 
 void LaunchWithArgument(App& app, const std::wstring& program, const std::wstring& argument) {
+    app.sys.processPendingEvents();
     StartCommandLine(app, CommandWithArgument(program, argument));
 }
 

@@ -71,28 +71,28 @@ const std::array<SettingsLine, kSettingsLineCount> kSettingsLines = {{
 void ApplySettingsLines(Settings& settings, const std::wstring& text) {
     const auto lines = SplitLines(text, kSettingsLineCount);
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const SettingsLine& spec = kSettingsLines[i];
-        const std::wstring line = spec.trimLeading ? TrimLeadingBlanks(lines[i]) : std::wstring(lines[i]);
+        const SettingsLine& entry = kSettingsLines[i];
+        const std::wstring line = entry.trimLeading ? TrimLeadingBlanks(lines[i]) : std::wstring(lines[i]);
         std::visit(
             [&](auto member) {
                 auto& target = settings.*member;
                 if constexpr (std::is_same_v<std::decay_t<decltype(target)>, std::wstring>) target = line;
                 else AssignNumber(target, line);
             },
-            spec.value);
+            entry.value);
     }
 }
 
 std::wstring FormatSettings(const Settings& settings) {
     std::wstring text;
-    for (const SettingsLine& spec : kSettingsLines) {
+    for (const SettingsLine& entry : kSettingsLines) {
         std::visit(
             [&](auto member) {
                 const auto& value = settings.*member;
                 if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::wstring>) text += value;
                 else text += NumberText(value);
             },
-            spec.value);
+            entry.value);
         text += L"\r\n";
     }
     return text;

@@ -143,5 +143,37 @@ TEST(StartUp, ShortFileWithoutAFinalLineEndKeepsItsLastValue) {
     EXPECT_EQ(written[3], "https://mail.example.org");
 }
 
+// The screen's DPI as programs started from now on see it; put back when done.
+class ScreenDpiSetting {
+public:
+    explicit ScreenDpiSetting(DWORD dpi) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, kKey, L"LogPixels", REG_DWORD, &dpi, sizeof dpi);
+    }
+    ~ScreenDpiSetting() { RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, L"LogPixels"); }
+
+private:
+    static constexpr wchar_t kKey[] = L"Control Panel\\Desktop";
+};
+
+TEST(StartUp, TheBarKeepsItsSizeInTwipsOnAHighDpiScreen) {
+    constexpr int kDpi = 144;
+    ProgramFolder folder(L"high dpi");
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), CrLfLines(SettingsLines({{1, "1500"}, {2, "3000"}}))));
+    ScreenDpiSetting highDpi(kDpi);
+    OrvaneProcess orvane(folder);
+    HWND bar = orvane.waitForMainWindow();
+    ASSERT_NE(bar, nullptr);
+    const RECT r = WindowRectangle(bar);
+    EXPECT_EQ(r.top, 150);
+    EXPECT_EQ(r.left, 300);
+    EXPECT_EQ(r.bottom - r.top, MulDiv(kBarHeightTwips, kDpi, 1440));
+    const auto written = SplitCrLf(CloseAndRead(orvane, folder));
+    ASSERT_EQ(written.size(), 39u);
+    EXPECT_EQ(written[0], "1500");
+    EXPECT_EQ(written[1], "3000");
+    EXPECT_EQ(written[9], std::to_string(MulDiv(r.right - r.left, 1440, kDpi)));
+    EXPECT_EQ(written[10], std::to_string(kBarHeightTwips));
+}
+
 }  // namespace
 }  // namespace orvane::e2e

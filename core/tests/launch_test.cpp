@@ -201,6 +201,7 @@ TEST_F(Launching, ArgumentCommandLines) {
     EXPECT_EQ(sys.started[0].commandLine, L"C:\\P\\p.exe");
     EXPECT_EQ(sys.started[1].commandLine, L"C:\\P\\p.exe a");
     EXPECT_EQ(sys.started[2].commandLine, L"C:\\P\\p.exe \"a b\"");
+    EXPECT_EQ(sys.journal[0], L"events") << "pending events run before the start";
     EXPECT_TRUE(sys.messages.empty());
 }
 
