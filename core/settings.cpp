@@ -104,8 +104,10 @@ void LoadSettings(App& app) {
         return;
     }
     // A file that exists but cannot be read (locked, say) is passed over
-    // silently: every value keeps its initial state.
-    if (const auto bytes = app.sys.readFile(app.SettingsFilePath))
+    // silently: every value keeps its initial state. Only the first 39 lines
+    // count, so a huge file is read no further than any real one could need.
+    constexpr std::size_t kReadLimit = 64u << 20;
+    if (const auto bytes = app.sys.readFile(app.SettingsFilePath, kReadLimit))
         ApplySettingsLines(app.settings, app.sys.fromAnsi(*bytes));
 }
 

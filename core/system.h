@@ -53,8 +53,8 @@ public:
     // Files and folders. fileExists finds files only; pathExists files and folders.
     virtual bool fileExists(const std::wstring& path) = 0;
     virtual bool pathExists(const std::wstring& path) = 0;
-    // The whole content, or nothing when the file cannot be opened for reading.
-    virtual std::optional<std::string> readFile(const std::wstring& path) = 0;
+    // The content up to maxBytes, or nothing when the file cannot be opened for reading.
+    virtual std::optional<std::string> readFile(const std::wstring& path, std::size_t maxBytes) = 0;
     // Creates the file anew (or truncates it) and writes the bytes.
     virtual FileError writeFile(const std::wstring& path, const std::string& bytes) = 0;
     virtual bool deleteFile(const std::wstring& path) = 0;

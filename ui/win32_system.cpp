@@ -81,14 +81,14 @@ bool Win32System::pathExists(const std::wstring& path) {
     return !path.empty() && GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-std::optional<std::string> Win32System::readFile(const std::wstring& path) {
+std::optional<std::string> Win32System::readFile(const std::wstring& path, std::size_t maxBytes) {
     UniqueFile file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                 OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!remember(bool(file))) return std::nullopt;
     LARGE_INTEGER size{};
     if (!remember(GetFileSizeEx(file.get(), &size))) return std::nullopt;
     std::string bytes;
-    bytes.resize(static_cast<std::size_t>(size.QuadPart));
+    bytes.resize(static_cast<std::size_t>(std::min<ULONGLONG>(static_cast<ULONGLONG>(size.QuadPart), maxBytes)));
     std::size_t done = 0;
     while (done < bytes.size()) {
         const DWORD chunk = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, 1u << 30));

@@ -14,7 +14,7 @@ public:
 
     bool fileExists(const std::wstring& path) override;
     bool pathExists(const std::wstring& path) override;
-    std::optional<std::string> readFile(const std::wstring& path) override;
+    std::optional<std::string> readFile(const std::wstring& path, std::size_t maxBytes) override;
     FileError writeFile(const std::wstring& path, const std::string& bytes) override;
     bool deleteFile(const std::wstring& path) override;
     std::wstring currentFolder() override;

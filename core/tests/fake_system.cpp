@@ -44,9 +44,9 @@ bool FakeSystem::fileExists(const std::wstring& path) { return files.count(path)
 
 bool FakeSystem::pathExists(const std::wstring& path) { return fileExists(path) || folders.count(path) > 0; }
 
-std::optional<std::string> FakeSystem::readFile(const std::wstring& path) {
+std::optional<std::string> FakeSystem::readFile(const std::wstring& path, std::size_t maxBytes) {
     if (!fileExists(path) || lockedFiles.count(path)) return std::nullopt;
-    return files[path];
+    return files[path].substr(0, maxBytes);
 }
 
 FileError FakeSystem::writeFile(const std::wstring& path, const std::string& bytes) {

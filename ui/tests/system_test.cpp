@@ -43,11 +43,12 @@ TEST_F(RealSystem, WrittenBytesReadBackExactlyAndDeleteRemoves) {
     std::string bytes = "0\r\n  C:\\x.exe  \r\n\x80\xFF\r\n";
     bytes += std::string(3, '\0');
     ASSERT_EQ(sys.writeFile(file, bytes), 0);
-    EXPECT_EQ(sys.readFile(file), bytes);
+    EXPECT_EQ(sys.readFile(file, 1 << 20), bytes);
+    EXPECT_EQ(sys.readFile(file, 3), "0\r\n");
     ASSERT_EQ(sys.writeFile(file, "short"), 0);
     EXPECT_EQ(ReadBytes(file), "short") << "rewritten from scratch";
     EXPECT_TRUE(sys.deleteFile(file));
-    EXPECT_FALSE(sys.readFile(file).has_value());
+    EXPECT_FALSE(sys.readFile(file, 100).has_value());
     EXPECT_FALSE(sys.lastErrorDescription().empty());
 }
 
@@ -57,7 +58,7 @@ TEST_F(RealSystem, LockedFileCannotBeReadNorWrittenAndSaysWhy) {
     UniqueFile lock(CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(lock);
     EXPECT_TRUE(sys.fileExists(file));
-    EXPECT_FALSE(sys.readFile(file).has_value());
+    EXPECT_FALSE(sys.readFile(file, 100).has_value());
     EXPECT_EQ(sys.writeFile(file, "lost"), 70);
     EXPECT_FALSE(sys.lastErrorDescription().empty());
     EXPECT_FALSE(sys.deleteFile(file));
