@@ -19,6 +19,10 @@ TwipsRect ToTwips(const RECT& r, UINT dpi) {
 
 MainWindow::MainWindow(App& app) : app_(app), background_(CreateSolidBrush(kMainBackColor)) {}
 
+MainWindow::~MainWindow() {
+    if (hwnd()) DestroyWindow(hwnd());
+}
+
 bool MainWindow::open() {
     const HINSTANCE instance = GetModuleHandleW(nullptr);
     WNDCLASSEXW applicationClass{};

@@ -18,6 +18,8 @@ inline constexpr COLORREF kMainBackColor = RGB(240, 240, 240);
 class MainWindow : public WindowBase, public MainWindowHost {
 public:
     explicit MainWindow(App& app);
+    // The bar goes before the members its messages use.
+    ~MainWindow() override;
 
     // Creates and loads the window; false when this copy handed over or failed.
     bool open();
