@@ -143,6 +143,19 @@ TEST(StartUp, ShortFileWithoutAFinalLineEndKeepsItsLastValue) {
     EXPECT_EQ(written[3], "https://mail.example.org");
 }
 
+TEST(StartUp, TheSettingsFileIsWrittenInTheAnsiCodePage) {
+    if (GetACP() != 1252) GTEST_SKIP() << "code page " << GetACP();
+    // "für" fits the code page; "Łódź" does not, and its foreign letters become "?".
+    ProgramFolder folder(L"f\u00fcr \u0141\u00f3d\u017a");
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), CrLfLines(SettingsLines())));
+    OrvaneProcess orvane(folder);
+    ASSERT_NE(orvane.waitForMainWindow(), nullptr);
+    const auto written = SplitCrLf(CloseAndRead(orvane, folder));
+    ASSERT_EQ(written.size(), 39u);
+    const std::string root = Utf8(folder.path().substr(0, folder.path().find_last_of(L'\\')));
+    EXPECT_EQ(written[18], root + "\\f\xFCr ?\xF3" "d?\\Skin_Alba.bmp");
+}
+
 // The screen's DPI as programs started from now on see it; put back when done.
 class ScreenDpiSetting {
 public:
