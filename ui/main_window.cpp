@@ -15,6 +15,12 @@ TwipsRect ToTwips(const RECT& r, UINT dpi) {
             PixelsToTwips(r.bottom - r.top, dpi)};
 }
 
+RECT PixelWorkArea() {
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+}
+
 }  // namespace
 
 MainWindow::MainWindow(App& app) : app_(app), background_(CreateSolidBrush(kMainBackColor)) {}
@@ -156,17 +162,13 @@ TwipsRect MainWindow::geometry() {
         placement.length = sizeof placement;
         GetWindowPlacement(hwnd(), &placement);
         r = placement.rcNormalPosition;  // work-area coordinates
-        RECT area{};
-        SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+        const RECT area = PixelWorkArea();
         OffsetRect(&r, area.left, area.top);
     }
     return ToTwips(r, WindowDpi(hwnd()));
 }
 
-TwipsRect MainWindow::workArea() {
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    return ToTwips(area, WindowDpi(hwnd()));
+TwipsRect MainWindow::workArea() { return ToTwips(PixelWorkArea(), WindowDpi(hwnd()));
 }
 
 std::int32_t MainWindow::backColor() { return static_cast<std::int32_t>(kMainBackColor); }
