@@ -168,8 +168,7 @@ TwipsRect MainWindow::geometry() {
     return ToTwips(r, WindowDpi(hwnd()));
 }
 
-TwipsRect MainWindow::workArea() { return ToTwips(PixelWorkArea(), WindowDpi(hwnd()));
-}
+TwipsRect MainWindow::workArea() { return ToTwips(PixelWorkArea(), WindowDpi(hwnd())); }
 
 std::int32_t MainWindow::backColor() { return static_cast<std::int32_t>(kMainBackColor); }
 
