@@ -58,6 +58,8 @@ std::wstring ProgramBaseName(const std::wstring& program) {
 
 bool ExecuteProcess(App& app, const std::wstring& file, WindowRef owner, int style, const std::wstring& parameters,
                     bool elevate) {
+    // A request that names no file has nothing to start; the shell would open a folder instead.
+    if (TrimBlanks(file).empty()) return false;
     ShellExecuteRequest request;
     request.owner = owner;
     request.verb = elevate ? L"runas" : L"Open";

@@ -42,6 +42,14 @@ struct OsVersion {
 
 enum class RegistryRoot { ClassesRoot, CurrentUser, LocalMachine, Users };
 
+// The platform's file-open dialog. The filter is written "Text|*.txt|All|*.*";
+// the first filter is selected and no initial folder is set.
+struct FileRequest {
+    std::wstring title;
+    std::wstring filter;
+    std::wstring preset;  // the file name shown at first
+};
+
 // Error numbers as the old runtime reported them for file operations.
 // Zero means success.
 using FileError = int;
@@ -93,6 +101,8 @@ public:
     // User interface services.
     virtual MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
                                       MessageButtons buttons) = 0;
+    // The chosen file, or nothing when the dialog was cancelled or failed.
+    virtual std::optional<std::wstring> chooseFile(const FileRequest& request) = 0;
     virtual void beep() = 0;
     virtual void restoreCursor() = 0;
     virtual void processPendingEvents() = 0;

@@ -1,5 +1,6 @@
 #include "win32_system.h"
 
+#include <commdlg.h>
 #include <shellapi.h>
 #include <shlobj.h>
 
@@ -255,14 +256,39 @@ MessageAnswer Win32System::showMessage(const std::wstring& text, const std::wstr
                                        MessageButtons buttons) {
     static constexpr UINT kIcons[] = {0, MB_ICONHAND, MB_ICONEXCLAMATION, MB_ICONQUESTION, MB_ICONASTERISK};
     static constexpr UINT kButtons[] = {MB_OK, MB_OKCANCEL, MB_YESNO, MB_YESNOCANCEL};
-    HWND owner = messageOwner_ && IsWindowVisible(messageOwner_) ? messageOwner_ : nullptr;
-    switch (MessageBoxW(owner, text.c_str(), caption.c_str(),
+    switch (MessageBoxW(owner(), text.c_str(), caption.c_str(),
                         kIcons[static_cast<int>(icon)] | kButtons[static_cast<int>(buttons)])) {
     case IDCANCEL: return MessageAnswer::Cancel;
     case IDYES: return MessageAnswer::Yes;
     case IDNO: return MessageAnswer::No;
     default: return MessageAnswer::Ok;
     }
+}
+
+HWND Win32System::owner() const {
+    if (HWND active = GetActiveWindow()) return active;
+    return messageOwner_ && IsWindowVisible(messageOwner_) ? messageOwner_ : nullptr;
+}
+
+// The filter's "|" separators become the NULs the dialog expects.
+std::optional<std::wstring> Win32System::chooseFile(const FileRequest& request) {
+    std::wstring filter = request.filter + L'|';
+    for (wchar_t& c : filter)
+        if (c == L'|') c = L'\0';
+    // Room for long paths; a preset that does not fit is cut, never overrun.
+    std::wstring name(32768, L'\0');
+    request.preset.copy(name.data(), std::min(request.preset.size(), name.size() - 1));
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = owner();
+    dialog.lpstrFilter = filter.c_str();
+    dialog.nFilterIndex = 1;
+    dialog.lpstrFile = name.data();
+    dialog.nMaxFile = static_cast<DWORD>(name.size());
+    dialog.lpstrTitle = request.title.c_str();
+    dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY;
+    if (!GetOpenFileNameW(&dialog)) return std::nullopt;
+    return std::wstring(name.c_str());
 }
 
 void Win32System::beep() { MessageBeep(MB_OK); }

@@ -9,7 +9,8 @@ namespace orvane::ui {
 
 class Win32System : public System {
 public:
-    // Message boxes are owned by this window while it is visible.
+    // Message boxes and file dialogs are owned by the active window of the
+    // program, or by this window while it is visible.
     void setMessageOwner(HWND owner) { messageOwner_ = owner; }
 
     bool fileExists(const std::wstring& path) override;
@@ -35,12 +36,14 @@ public:
     OsVersion osVersion() override;
     MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
                               MessageButtons buttons) override;
+    std::optional<std::wstring> chooseFile(const FileRequest& request) override;
     void beep() override;
     void restoreCursor() override;
     void processPendingEvents() override;
 
 private:
     bool remember(bool ok);
+    HWND owner() const;
     HWND messageOwner_ = nullptr;
     DWORD lastError_ = 0;
 };

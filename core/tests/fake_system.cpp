@@ -118,4 +118,12 @@ MessageAnswer FakeSystem::showMessage(const std::wstring& text, const std::wstri
     return answer;
 }
 
+std::optional<std::wstring> FakeSystem::chooseFile(const FileRequest& request) {
+    fileRequests.push_back(request);
+    if (fileAnswers.empty()) return std::nullopt;
+    auto answer = fileAnswers.front();
+    fileAnswers.erase(fileAnswers.begin());
+    return answer;
+}
+
 }  // namespace orvane::testing

@@ -46,6 +46,7 @@ public:
     std::map<int, std::wstring> specialFolders;
     OsVersion version{6, 1};
     std::vector<MessageAnswer> answers;  // consumed in order; Ok when empty
+    std::vector<std::optional<std::wstring>> fileAnswers;  // consumed in order; cancelled when empty
 
     // What happened, in order.
     std::vector<std::wstring> journal;
@@ -53,6 +54,7 @@ public:
     std::vector<StartedCommand> started;
     std::vector<ShellExecuteRequest> shellRequests;
     std::vector<WindowRef> foregrounded;
+    std::vector<FileRequest> fileRequests;
 
     // System.
     bool fileExists(const std::wstring& path) override;
@@ -78,6 +80,7 @@ public:
     OsVersion osVersion() override { return version; }
     MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
                               MessageButtons buttons) override;
+    std::optional<std::wstring> chooseFile(const FileRequest& request) override;
     void beep() override { journal.push_back(L"beep"); }
     void restoreCursor() override { journal.push_back(L"cursor"); }
     void processPendingEvents() override { journal.push_back(L"events"); }
