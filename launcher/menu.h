@@ -1,0 +1,41 @@
+// The main window's menu bar as data: every item in the order it is added,
+// each with its parent, key, caption, icon key and shortcut. The bar is built
+// once from these rows, and so are its keyboard shortcuts.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+// Modifier bits of a shortcut.
+inline constexpr std::uint16_t kShift = 1;
+inline constexpr std::uint16_t kCtrl = 2;
+inline constexpr std::uint16_t kAlt = 4;
+
+struct Shortcut {
+    std::uint16_t modifiers = 0;
+    std::uint16_t key = 0;  // a virtual-key code: 65 to 90 for A to Z, 112 to 123 for F1 to F12; 0 for none
+};
+
+struct MenuRow {
+    std::wstring_view parentKey;  // empty for an item of the bar itself
+    std::wstring_view key;        // empty for a separator
+    std::wstring_view caption;    // "&" before the access letter; empty for a separator
+    std::wstring_view iconKey;    // "k1" to "k73"; empty for none
+    Shortcut shortcut;
+
+    bool isSeparator() const { return key.empty() && caption.empty(); }
+};
+
+std::span<const MenuRow> MainMenuRows();
+
+// Whether a row of the bar itself opens a menu (rather than acting as a command).
+bool HasItems(std::span<const MenuRow> rows, std::wstring_view key);
+
+// The shortcut as Windows menus write it: "Ctrl+Shift+M", "Alt+F10", "F4"; empty for none.
+std::wstring ShortcutText(Shortcut shortcut);
+
+}  // namespace orvane
