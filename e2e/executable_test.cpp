@@ -1,7 +1,10 @@
-// What orvane.exe carries: its manifest, version and icon.
+// What orvane.exe carries: its manifest, version, icon and menu icons.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "win_support.h"
@@ -51,6 +54,36 @@ TEST_F(Executable, CarriesAnIconAndItsVersion) {
     VS_FIXEDFILEINFO* fixed = nullptr;
     ASSERT_TRUE(VerQueryValueW(info.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
     EXPECT_EQ(HIWORD(fixed->dwFileVersionMS), 1);
+}
+
+// Every key kN of the icon table is icon 1000 + N, with an uncompressed 32-bit
+// image drawn at 16 and at 24 pixels, and loads at those sizes.
+TEST_F(Executable, CarriesEveryMenuIconAt16And24Pixels) {
+    std::istringstream table(ReadBytes(WindowsPath(EnvironmentValue(L"ORVANE_MENU_ICONS"))));
+    int keys = 0;
+    for (std::string line; std::getline(table, line);) {
+        int key = 0;
+        if (std::sscanf(line.c_str(), "k%d", &key) != 1) continue;  // comments
+        ++keys;
+        std::string group = resource(RT_GROUP_ICON, MAKEINTRESOURCEW(1000 + key));
+        ASSERT_FALSE(group.empty()) << "k" << key;
+        for (const int size : {16, 24}) {
+            SCOPED_TRACE("k" + std::to_string(key) + " at " + std::to_string(size));
+            const int id = LookupIconIdFromDirectoryEx(reinterpret_cast<BYTE*>(group.data()), TRUE, size, size, 0);
+            const std::string image = resource(RT_ICON, MAKEINTRESOURCEW(id));
+            ASSERT_GE(image.size(), sizeof(BITMAPINFOHEADER));
+            const auto* header = reinterpret_cast<const BITMAPINFOHEADER*>(image.data());
+            EXPECT_EQ(std::tuple(header->biWidth, header->biBitCount), std::tuple(LONG(size), WORD(32)));
+            auto* icon = static_cast<HICON>(
+                LoadImageW(module, MAKEINTRESOURCEW(1000 + key), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+            ICONINFO info{};
+            BITMAP colour{};
+            ASSERT_TRUE(icon && GetIconInfo(icon, &info) && GetObjectW(info.hbmColor, sizeof colour, &colour));
+            EXPECT_EQ(std::tuple(colour.bmWidth, colour.bmHeight), std::tuple(LONG(size), LONG(size)));
+            DeleteObject(info.hbmColor), DeleteObject(info.hbmMask), DestroyIcon(icon);
+        }
+    }
+    EXPECT_GT(keys, 0) << "no keys read from the icon table";
 }
 
 }  // namespace

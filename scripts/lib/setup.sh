@@ -21,7 +21,9 @@ ensure_packages() {
 }
 
 NATIVE_PACKAGES=(cmake ninja-build g++ libgtest-dev)
-WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 xvfb xauth)
+# The menu icons are built from the Tango theme with python3 and rsvg-convert.
+WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 xvfb xauth
+  python3 librsvg2-bin tango-icon-theme)
 
 build_preset() {
   say "building ($1)"
