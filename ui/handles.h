@@ -68,6 +68,7 @@ using UniqueFont = Unique<NullTraits<HFONT, DeleteObject>>;
 using UniqueBitmap = Unique<NullTraits<HBITMAP, DeleteObject>>;
 using UniqueIcon = Unique<NullTraits<HICON, DestroyIcon>>;
 using UniqueMenu = Unique<NullTraits<HMENU, DestroyMenu>>;
+using UniqueAccelerators = Unique<NullTraits<HACCEL, DestroyAcceleratorTable>>;
 using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, CoTaskMemFree>>;
 
 // The logic's plain window numbers and the system's window handles.

@@ -30,6 +30,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
 
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (TranslateAcceleratorW(mainWindow.hwnd(), mainWindow.accelerators(), &message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

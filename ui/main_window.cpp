@@ -1,7 +1,9 @@
 #include "main_window.h"
 
 #include <commctrl.h>
+#include <shldisp.h>
 
+#include "dialogs.h"
 #include "dpi.h"
 
 namespace orvane::ui {
@@ -88,8 +90,22 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         const RECT* suggested = reinterpret_cast<const RECT*>(lParam);
         setPixelRect(suggested->left, suggested->top, suggested->right - suggested->left,
                      suggested->bottom - suggested->top, 0);
+        menuBar_.dpiChanged(hwnd());
         return 0;
     }
+    case WM_COMMAND:
+        // A menu item or its shortcut: the command is found by the item's caption.
+        if (lParam == 0) {
+            commands_.dispatch(menuBar_.caption(hwnd(), LOWORD(wParam)));
+            return 0;
+        }
+        break;
+    case WM_MEASUREITEM:
+        if (menuBar_.measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam))) return TRUE;
+        break;
+    case WM_DRAWITEM:
+        if (menuBar_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam))) return TRUE;
+        break;
     }
     return WindowBase::handleMessage(message, wParam, lParam);
 }
@@ -172,10 +188,45 @@ TwipsRect MainWindow::workArea() { return ToTwips(PixelWorkArea(), WindowDpi(hwn
 
 std::int32_t MainWindow::backColor() { return static_cast<std::int32_t>(kMainBackColor); }
 
-// The icon strip, the skin and the menu bar are built by their own modules
-// as they arrive; the bar opens without them until then.
+// The icon strip and the skin come with their own modules; the bar opens
+// without them until then.
 void MainWindow::layIconStrip() {}
 void MainWindow::applySkin(const std::wstring&) {}
-void MainWindow::buildMenuBar() {}
+void MainWindow::buildMenuBar() { menuBar_.build(hwnd()); }
+
+std::wstring MainWindow::inputBox(const std::wstring& prompt, const std::wstring& preset) {
+    return ShowInputBox(app_, hwnd(), prompt, preset);
+}
+void MainWindow::showAbout() { ShowAboutDialog(app_, hwnd()); }
+void MainWindow::showProgramLocations() { ShowProgramLocations(app_, hwnd()); }
+void MainWindow::showYourProgram() { ShowYourProgram(app_, hwnd()); }
+
+// The shell's own desktop toggle; a system without it simply does nothing.
+void MainWindow::toggleDesktop() {
+    static const HRESULT apartment = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    (void)apartment;
+    IShellDispatch4* shell = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_Shell, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IShellDispatch4,
+                                reinterpret_cast<void**>(&shell))))
+        return;
+    shell->ToggleDesktop();
+    shell->Release();
+}
+
+// Exit closes the bar as its close box does, so the settings are written.
+void MainWindow::exitProgram() { PostMessageW(hwnd(), WM_CLOSE, 0, 0); }
+
+// The layout of the icon strip comes with the strip.
+void MainWindow::useScreenWidth() {}
+void MainWindow::changeIconSize(int) {}
+void MainWindow::toggleIconStrip() {}
+void MainWindow::toggleTopBottom() {}
+// The skin chooser and the menu font come with the skins.
+void MainWindow::chooseSkin() {}
+void MainWindow::chooseMenuFont() {}
+// These windows come with their own subsystems.
+void MainWindow::showCustomPrograms() {}
+void MainWindow::showWebList() {}
+void MainWindow::showWallpaper() {}
 
 }  // namespace orvane::ui

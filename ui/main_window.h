@@ -3,8 +3,10 @@
 #pragma once
 
 #include "app.h"
+#include "commands.h"
 #include "handles.h"
 #include "lifecycle.h"
+#include "menu_bar.h"
 #include "window_base.h"
 
 namespace orvane::ui {
@@ -15,7 +17,7 @@ inline constexpr wchar_t kMainWindowClass[] = L"Orvane.Main";
 // The bar's own background, set at design time.
 inline constexpr COLORREF kMainBackColor = RGB(240, 240, 240);
 
-class MainWindow : public WindowBase, public MainWindowHost {
+class MainWindow : public WindowBase, public MainWindowHost, public MainWindowRoutines {
 public:
     explicit MainWindow(App& app);
     // The bar goes before the members its messages use.
@@ -23,6 +25,8 @@ public:
 
     // Creates and loads the window; false when this copy handed over or failed.
     bool open();
+    // The menu bar's shortcuts, for the message loop.
+    HACCEL accelerators() const { return menuBar_.accelerators(); }
 
 private:
     LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -50,7 +54,26 @@ private:
     void applySkin(const std::wstring& skinFile) override;
     void buildMenuBar() override;
 
+    // MainWindowRoutines
+    std::wstring inputBox(const std::wstring& prompt, const std::wstring& preset) override;
+    void showAbout() override;
+    void showProgramLocations() override;
+    void showYourProgram() override;
+    void toggleDesktop() override;
+    void exitProgram() override;
+    void useScreenWidth() override;
+    void changeIconSize(int step) override;
+    void toggleIconStrip() override;
+    void toggleTopBottom() override;
+    void chooseSkin() override;
+    void chooseMenuFont() override;
+    void showCustomPrograms() override;
+    void showWebList() override;
+    void showWallpaper() override;
+
     App& app_;
+    MenuBar menuBar_;
+    MainCommands commands_{app_, *this};
     MainWindowState state_;
     UniqueModule shell32_;
     UniqueHandle instanceMutex_;

@@ -1,0 +1,57 @@
+// frmAbout: the program's icon, name, version and what it is.
+#include <vector>
+
+#include "app.h"
+#include "dialogs.h"
+#include "dpi.h"
+#include "handles.h"
+#include "launch.h"
+#include "modal_dialog.h"
+#include "resource.h"
+
+namespace orvane::ui {
+
+namespace {
+
+constexpr wchar_t kHomePage[] = L"https://orvane.example/";
+
+std::wstring ProductVersion() {
+    HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(VS_VERSION_INFO), MAKEINTRESOURCEW(16));
+    if (!found) return {};
+    const auto* data = static_cast<const char*>(LockResource(LoadResource(nullptr, found)));
+    std::vector<char> copy(data, data + SizeofResource(nullptr, found));  // the query wants writable memory
+    wchar_t* text = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueW(copy.data(), L"\\StringFileInfo\\040904B0\\ProductVersion", reinterpret_cast<void**>(&text),
+                        &length))
+        return {};
+    return std::wstring(text, length ? length - 1 : 0);
+}
+
+class AboutDialog : public ModalDialog {
+public:
+    explicit AboutDialog(App& app) : app_(app) {}
+
+private:
+    void onInit() override {
+        const int size = MulDiv(32, static_cast<int>(WindowDpi(hwnd())), 96);
+        icon_.reset(static_cast<HICON>(
+            LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+        SendDlgItemMessageW(hwnd(), IDC_ABOUT_PICTURE, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon_.get()));
+        setItemText(IDC_ABOUT_VERSION, L"Version " + ProductVersion());
+        SetFocus(GetDlgItem(hwnd(), IDOK));
+    }
+    void onCommand(int id, int code) override {
+        if (id == IDC_ABOUT_PICTURE) LoadCustomBrowser(app_, kHomePage);
+        else ModalDialog::onCommand(id, code);
+    }
+
+    App& app_;
+    UniqueIcon icon_;
+};
+
+}  // namespace
+
+void ShowAboutDialog(App& app, HWND owner) { AboutDialog(app).show(owner, IDD_ABOUT); }
+
+}  // namespace orvane::ui

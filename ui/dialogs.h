@@ -1,0 +1,21 @@
+// The dialogs of the main window. Each is modal over its owner, so only one
+// of each is ever open.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace orvane {
+class App;
+}
+
+namespace orvane::ui {
+
+void ShowAboutDialog(App& app, HWND owner);
+// The shared input box: the text typed, or empty when cancelled.
+std::wstring ShowInputBox(App& app, HWND owner, const std::wstring& prompt, const std::wstring& preset);
+void ShowProgramLocations(App& app, HWND owner);
+void ShowYourProgram(App& app, HWND owner);
+
+}  // namespace orvane::ui

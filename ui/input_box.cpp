@@ -1,0 +1,61 @@
+// frmMyInputBox: a prompt and one line of text, with a way to look up a
+// folder or a file while typing.
+#include "app.h"
+#include "catalogue.h"
+#include "dialogs.h"
+#include "handles.h"
+#include "launch.h"
+#include "modal_dialog.h"
+#include "resource.h"
+
+namespace orvane::ui {
+
+namespace {
+
+constexpr int kDesktopFolder = 0x10;
+
+class InputBox : public ModalDialog {
+public:
+    InputBox(App& app, const std::wstring& prompt, const std::wstring& preset)
+        : app_(app), prompt_(prompt), text_(preset) {}
+    const std::wstring& text() const { return text_; }
+
+private:
+    void onInit() override {
+        setItemText(IDC_PROMPT, prompt_);
+        setItemText(IDC_BOX_TEXT, text_);
+        SendDlgItemMessageW(hwnd(), IDC_BOX_TEXT, EM_SETSEL, 0, -1);
+        SetFocus(GetDlgItem(hwnd(), IDC_BOX_TEXT));
+    }
+    void onCommand(int id, int code) override {
+        switch (id) {
+        case IDOK: text_ = itemText(IDC_BOX_TEXT); break;
+        case IDCANCEL: text_.clear(); break;
+        case IDC_DESKTOP_FOLDER: {
+            const std::wstring desktop = app_.sys.specialFolder(kDesktopFolder);
+            app_.sys.shellVerb(ToRef(hwnd()), L"open", desktop.c_str(), desktop.c_str(), kShowNormal);
+            return;
+        }
+        case IDC_EXPLORER: ExploreFolder(app_, ToRef(hwnd())); return;
+        case IDC_INSPECTOR: {
+            std::wstring program = BuiltInPath(Tool::FileInspector), document;
+            LaunchSuiteProgram(app_, program, document);
+            return;
+        }
+        }
+        ModalDialog::onCommand(id, code);
+    }
+
+    App& app_;
+    std::wstring prompt_, text_;
+};
+
+}  // namespace
+
+std::wstring ShowInputBox(App& app, HWND owner, const std::wstring& prompt, const std::wstring& preset) {
+    InputBox box(app, prompt, preset);
+    box.show(owner, IDD_INPUT_BOX);
+    return box.text();
+}
+
+}  // namespace orvane::ui

@@ -1,0 +1,158 @@
+#include "menu_bar.h"
+
+#include <map>
+#include <vector>
+
+#include "dpi.h"
+#include "menu.h"
+
+namespace orvane::ui {
+
+namespace {
+
+int IconNumber(std::wstring_view key) {
+    return key.size() > 1 ? _wtoi(std::wstring(key.substr(1)).c_str()) : 0;
+}
+
+std::wstring ItemText(const MenuRow& row) {
+    const std::wstring shortcut = ShortcutText(row.shortcut);
+    return std::wstring(row.caption) + (shortcut.empty() ? L"" : L"\t" + shortcut);
+}
+
+BYTE AcceleratorFlags(Shortcut shortcut) {
+    return static_cast<BYTE>(FVIRTKEY | (shortcut.modifiers & kShift ? FSHIFT : 0) |
+                             (shortcut.modifiers & kCtrl ? FCONTROL : 0) | (shortcut.modifiers & kAlt ? FALT : 0));
+}
+
+// The system's menu font at the window's DPI.
+HFONT MenuFont(UINT dpi) {
+    using ForDpi = BOOL(WINAPI*)(UINT, UINT, PVOID, UINT, UINT);
+    static const auto forDpi = reinterpret_cast<ForDpi>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "SystemParametersInfoForDpi")));
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    if (!forDpi || !forDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi)) {
+        SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+        metrics.lfMenuFont.lfHeight = MulDiv(metrics.lfMenuFont.lfHeight, static_cast<int>(dpi), static_cast<int>(WindowDpi(nullptr)));
+    }
+    return CreateFontIndirectW(&metrics.lfMenuFont);
+}
+
+}  // namespace
+
+void MenuBar::build(HWND window) {
+    const auto rows = MainMenuRows();
+    HMENU bar = CreateMenu();
+    std::map<std::wstring_view, HMENU> menus;
+    std::vector<ACCEL> shortcuts;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const MenuRow& row = rows[i];
+        const UINT command = kFirstMenuCommand + static_cast<UINT>(i);
+        const std::wstring text = ItemText(row);
+        if (row.parentKey.empty()) {
+            if (HasItems(rows, row.key)) {
+                menus[row.key] = CreatePopupMenu();
+                AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(menus[row.key]), text.c_str());
+            } else {
+                AppendMenuW(bar, MF_STRING, command, text.c_str());
+            }
+        } else {
+            HMENU menu = menus[row.parentKey];
+            MENUITEMINFOW item{};
+            item.cbSize = sizeof item;
+            item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_DATA | (row.isSeparator() ? 0 : MIIM_STRING);
+            item.fType = MFT_OWNERDRAW | (row.isSeparator() ? MFT_SEPARATOR : 0);
+            item.wID = command;
+            item.dwItemData = i;
+            item.dwTypeData = const_cast<wchar_t*>(text.c_str());
+            InsertMenuItemW(menu, GetMenuItemCount(menu), TRUE, &item);
+        }
+        if (row.shortcut.key)
+            shortcuts.push_back({AcceleratorFlags(row.shortcut), row.shortcut.key, static_cast<WORD>(command)});
+    }
+    accelerators_.reset(CreateAcceleratorTableW(shortcuts.data(), static_cast<int>(shortcuts.size())));
+    loadResources(window);
+    HMENU previous = GetMenu(window);
+    SetMenu(window, bar);  // the window owns it from now on
+    if (previous) DestroyMenu(previous);
+}
+
+void MenuBar::dpiChanged(HWND window) {
+    // Owner-drawn items keep the size they were measured at; a fresh bar is measured anew.
+    if (GetMenu(window)) build(window);
+}
+
+void MenuBar::loadResources(HWND window) {
+    dpi_ = WindowDpi(window);
+    font_.reset(MenuFont(dpi_));
+    const int size = scaled(16);
+    for (UniqueIcon& icon : icons_) icon.reset();
+    for (const MenuRow& row : MainMenuRows()) {
+        const int key = IconNumber(row.iconKey);
+        if (key <= 0 || key >= static_cast<int>(icons_.size()) || icons_[key]) continue;
+        // An icon the resources lack leaves its item without one.
+        icons_[key].reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kFirstMenuIcon + key),
+                                                        IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+    }
+}
+
+std::wstring MenuBar::caption(HWND window, UINT command) const {
+    wchar_t text[256] = {};
+    const int length = GetMenuStringW(GetMenu(window), command, text, 256, MF_BYCOMMAND);
+    std::wstring caption(text, length > 0 ? length : 0);
+    return caption.substr(0, caption.find(L'\t'));
+}
+
+bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
+    const auto rows = MainMenuRows();
+    if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;
+    const MenuRow& row = rows[item.itemData];
+    if (row.isSeparator()) {
+        item.itemWidth = 0;
+        item.itemHeight = scaled(7);
+        return true;
+    }
+    HDC dc = GetDC(nullptr);
+    HGDIOBJ previous = SelectObject(dc, font_.get());
+    RECT caption{}, shortcut{};
+    const std::wstring captionText(row.caption), shortcutText = ShortcutText(row.shortcut);
+    DrawTextW(dc, captionText.c_str(), -1, &caption, DT_SINGLELINE | DT_CALCRECT);
+    DrawTextW(dc, shortcutText.c_str(), -1, &shortcut, DT_SINGLELINE | DT_CALCRECT | DT_NOPREFIX);
+    SelectObject(dc, previous);
+    ReleaseDC(nullptr, dc);
+    // Icon column, caption, a gap, the shortcut, a margin.
+    item.itemWidth = static_cast<UINT>(scaled(28) + caption.right + scaled(24) + shortcut.right + scaled(8));
+    item.itemHeight = static_cast<UINT>(std::max<int>(scaled(22), caption.bottom + scaled(6)));
+    return true;
+}
+
+bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
+    const auto rows = MainMenuRows();
+    if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;
+    const MenuRow& row = rows[item.itemData];
+    HDC dc = item.hDC;
+    RECT r = item.rcItem;
+    const bool selected = (item.itemState & ODS_SELECTED) && !row.isSeparator();
+    FillRect(dc, &r, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_MENU));
+    if (row.isSeparator()) {
+        RECT line{r.left + scaled(28), (r.top + r.bottom) / 2 - 1, r.right - scaled(4), (r.top + r.bottom) / 2 + 1};
+        DrawEdge(dc, &line, EDGE_ETCHED, BF_TOP);
+        return true;
+    }
+    const int iconSize = scaled(16);
+    if (const auto key = static_cast<std::size_t>(IconNumber(row.iconKey)); key < icons_.size() && icons_[key])
+        DrawIconEx(dc, r.left + scaled(4), (r.top + r.bottom - iconSize) / 2, icons_[key].get(), iconSize, iconSize, 0, nullptr,
+                   DI_NORMAL);
+    HGDIOBJ previous = SelectObject(dc, font_.get());
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT));
+    RECT text{r.left + scaled(28), r.top, r.right - scaled(8), r.bottom};
+    // The access letter is underlined once the keyboard is in use.
+    const UINT prefix = (item.itemState & ODS_NOACCEL) ? DT_HIDEPREFIX : 0;
+    DrawTextW(dc, std::wstring(row.caption).c_str(), -1, &text, DT_SINGLELINE | DT_VCENTER | DT_LEFT | prefix);
+    DrawTextW(dc, ShortcutText(row.shortcut).c_str(), -1, &text, DT_SINGLELINE | DT_VCENTER | DT_RIGHT | DT_NOPREFIX);
+    SelectObject(dc, previous);
+    return true;
+}
+
+}  // namespace orvane::ui

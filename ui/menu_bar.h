@@ -1,0 +1,44 @@
+// The main window's menu bar and keyboard shortcuts, built from the launcher's
+// menu rows. Items with icons are owner-drawn but keep their caption string,
+// so the dispatch, screen readers and tests read the real caption.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <string>
+
+#include "handles.h"
+
+namespace orvane::ui {
+
+// Command identifiers of the menu items: this plus the row's index.
+inline constexpr UINT kFirstMenuCommand = 1000;
+// Icon resources: this plus the number of the icon key ("k47" is 1047).
+inline constexpr int kFirstMenuIcon = 1000;
+
+class MenuBar {
+public:
+    // Builds the bar, gives it to the window and makes the shortcut table.
+    void build(HWND window);
+    // Fonts, icons and item sizes follow the window's new DPI.
+    void dpiChanged(HWND window);
+
+    HACCEL accelerators() const { return accelerators_.get(); }
+    // The clicked item's caption, without the shortcut text after its tab.
+    std::wstring caption(HWND window, UINT command) const;
+
+    bool measure(MEASUREITEMSTRUCT& item) const;
+    bool draw(const DRAWITEMSTRUCT& item) const;
+
+private:
+    void loadResources(HWND window);
+    int scaled(int pixelsAt96) const { return MulDiv(pixelsAt96, static_cast<int>(dpi_), 96); }
+
+    UniqueAccelerators accelerators_;
+    UniqueFont font_;
+    std::array<UniqueIcon, 74> icons_;  // by the icon key's number
+    UINT dpi_ = 96;
+};
+
+}  // namespace orvane::ui

@@ -1,0 +1,61 @@
+#include "modal_dialog.h"
+
+#include <algorithm>
+
+namespace orvane::ui {
+
+namespace {
+
+void CentreOver(HWND dialog, HWND owner) {
+    RECT box{}, over{};
+    GetWindowRect(dialog, &box);
+    GetWindowRect(owner ? owner : GetDesktopWindow(), &over);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(owner ? owner : dialog, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& area = monitor.rcWork;
+    const int width = box.right - box.left, height = box.bottom - box.top;
+    // The bar is a thin strip at the screen's edge: keep the dialog on the screen.
+    const int left = std::clamp((over.left + over.right - width) / 2, area.left, std::max(area.left, area.right - width));
+    const int top = std::clamp((over.top + over.bottom - height) / 2, area.top, std::max(area.top, area.bottom - height));
+    SetWindowPos(dialog, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+INT_PTR ModalDialog::show(HWND owner, int templateId) {
+    return DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner, &ModalDialog::route,
+                           reinterpret_cast<LPARAM>(this));
+}
+
+void ModalDialog::onCommand(int id, int) {
+    if (id == IDOK || id == IDCANCEL) end(id);
+}
+
+std::wstring ModalDialog::itemText(int id) const {
+    HWND item = GetDlgItem(window_, id);
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* self = reinterpret_cast<ModalDialog*>(GetWindowLongPtrW(window, DWLP_USER));
+    if (message == WM_INITDIALOG) {
+        self = reinterpret_cast<ModalDialog*>(lParam);
+        SetWindowLongPtrW(window, DWLP_USER, lParam);
+        self->window_ = window;
+        CentreOver(window, GetWindow(window, GW_OWNER));
+        self->onInit();
+        return TRUE;
+    }
+    if (!self) return FALSE;
+    if (message == WM_COMMAND) {
+        self->onCommand(LOWORD(wParam), HIWORD(wParam));
+        return TRUE;
+    }
+    if (message == WM_NCDESTROY) self->window_ = nullptr;
+    return FALSE;
+}
+
+}  // namespace orvane::ui

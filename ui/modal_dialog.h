@@ -1,0 +1,37 @@
+// A dialog from a template, shown modally over its owner and centred over it
+// (inside the work area). Enter presses OK, Esc Cancel; both end it unless
+// the dialog decides otherwise.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace orvane::ui {
+
+class ModalDialog {
+public:
+    ModalDialog() = default;
+    ModalDialog(const ModalDialog&) = delete;
+    ModalDialog& operator=(const ModalDialog&) = delete;
+    virtual ~ModalDialog() = default;
+
+    // Returns the identifier the dialog ended with.
+    INT_PTR show(HWND owner, int templateId);
+
+protected:
+    HWND hwnd() const { return window_; }
+    virtual void onInit() {}
+    // Controls' notifications; the default ends the dialog on OK and Cancel.
+    virtual void onCommand(int id, int code);
+    void end(INT_PTR result) { EndDialog(window_, result); }
+
+    std::wstring itemText(int id) const;
+    void setItemText(int id, const std::wstring& text) { SetDlgItemTextW(window_, id, text.c_str()); }
+
+private:
+    static INT_PTR CALLBACK route(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    HWND window_ = nullptr;
+};
+
+}  // namespace orvane::ui

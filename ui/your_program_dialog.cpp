@@ -1,0 +1,34 @@
+// frmSetYourProg: the user's own program, chosen, typed and started.
+#include "app.h"
+#include "dialogs.h"
+#include "locations.h"
+#include "modal_dialog.h"
+#include "resource.h"
+
+namespace orvane::ui {
+
+namespace {
+
+class YourProgramDialog : public ModalDialog {
+public:
+    explicit YourProgramDialog(App& app) : app_(app) {}
+
+private:
+    void onInit() override { setItemText(IDC_PROGRAM, app_.settings.YourProgram); }
+    void onCommand(int id, int code) override {
+        if (id == IDC_PROGRAM && code == EN_CHANGE) app_.settings.YourProgram = itemText(IDC_PROGRAM);
+        if (id == IDC_BROWSE && ChooseIntoSetting(app_, Choice::YourProgram))
+            setItemText(IDC_PROGRAM, app_.settings.YourProgram);
+        // A missing program is reported and the dialog stays open.
+        if (id == IDOK && !StartYourProgram(app_)) return;
+        ModalDialog::onCommand(id, code);
+    }
+
+    App& app_;
+};
+
+}  // namespace
+
+void ShowYourProgram(App& app, HWND owner) { YourProgramDialog(app).show(owner, IDD_YOUR_PROGRAM); }
+
+}  // namespace orvane::ui
