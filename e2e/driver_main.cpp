@@ -1,10 +1,12 @@
 // driver.exe: steps of the end-to-end harness for scripts, e.g. the demo run.
 //   driver.exe wait-bar    waits until a bar is shown
+//   driver.exe open-menu   opens the bar's first menu from the keyboard
 //   driver.exe close-bar   closes the bar as its close box does and waits until it has ended
 #include <cstdio>
 #include <string>
 
 #include "orvane_process.h"
+#include "user_input.h"
 #include "win_support.h"
 
 using namespace orvane;
@@ -25,6 +27,7 @@ int CloseBar() {
     DWORD processId = 0;
     GetWindowThreadProcessId(bar, &processId);
     HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
+    PostMessageW(bar, WM_CANCELMODE, 0, 0);  // a menu left open
     PostMessageW(bar, WM_CLOSE, 0, 0);
     const bool ended = process && WaitForSingleObject(process, 30000) == WAIT_OBJECT_0;
     if (process) CloseHandle(process);
@@ -37,6 +40,11 @@ int wmain(int argc, wchar_t** argv) {
     const std::wstring step = argc > 1 ? argv[1] : L"";
     if (step == L"wait-bar") return WaitForBar() ? 0 : 1;
     if (step == L"close-bar") return CloseBar();
-    std::fprintf(stderr, "usage: driver.exe wait-bar | close-bar\n");
+    if (step == L"open-menu") {
+        HWND bar = WaitForBar();
+        if (bar) e2e::PressKeys(bar, {VK_MENU, 'F'});
+        return bar ? 0 : 1;
+    }
+    std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | close-bar\n");
     return 2;
 }

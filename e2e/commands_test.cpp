@@ -1,0 +1,167 @@
+// The menu bar and its commands, used as a user would: menus, shortcuts and
+// dialogs of a running orvane.exe, with probe.exe standing in for the programs
+// it starts.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+
+#include "menu.h"
+#include "orvane_process.h"
+#include "resource.h"
+#include "settings_text.h"
+#include "user_input.h"
+#include "win_support.h"
+
+namespace orvane::e2e {
+namespace {
+
+using namespace testsupport;
+
+class Commands : public ::testing::Test {
+protected:
+    // A program folder with the given settings and the probe under the given names.
+    HWND start(const std::map<int, std::string>& settings, std::initializer_list<const wchar_t*> probes = {}) {
+        for (const wchar_t* name : probes) {
+            CreateDirectoryW((folder.path() + L"\\" + name).substr(0, (folder.path() + L"\\" + name).rfind(L'\\')).c_str(), nullptr);
+            CopyInto(WindowsPath(EnvironmentValue(L"ORVANE_PROBE")), folder.path(), name);
+        }
+        WriteBytes(folder.settingsFile(), CrLfLines(SettingsLines(settings)));
+        orvane = std::make_unique<OrvaneProcess>(folder);
+        return orvane->waitForMainWindow();
+    }
+    std::vector<ProbeRecord> records(std::size_t count, const std::wstring& log) {
+        std::vector<ProbeRecord> found;
+        WaitFor([&] { return (found = ReadProbeLog(log)).size() >= count; }, 10s);
+        return found;
+    }
+    std::vector<std::string> closeAndReadSettings() {
+        orvane->close();
+        EXPECT_EQ(orvane->waitForExit(), 0u);
+        return SplitCrLf(ReadBytes(folder.settingsFile()));
+    }
+    std::string path(const std::wstring& name) { return Utf8(folder.path() + L"\\" + name); }
+
+    ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
+    std::unique_ptr<OrvaneProcess> orvane;
+};
+
+TEST_F(Commands, TheMenuShowsTheTableWithItsShortcuts) {
+    HWND bar = start({});
+    ASSERT_NE(bar, nullptr);
+    std::vector<std::wstring> expected, shown;
+    const auto rows = MainMenuRows();
+    for (const MenuRow& row : rows) {
+        const std::wstring shortcut = ShortcutText(row.shortcut);
+        const bool drawn = !row.parentKey.empty();  // items in menus draw their icons themselves
+        expected.push_back(std::wstring(row.parentKey.empty() ? L"bar " : L"item ") + (drawn ? L"drawn " : L"") +
+                           (row.isSeparator() ? L"-" : std::wstring(row.caption)) +
+                           (shortcut.empty() ? L"" : L"\t" + shortcut));
+    }
+    for (const MenuItem& item : ReadMenu(bar))
+        shown.push_back(std::wstring(item.depth ? L"item " : L"bar ") + (item.type & MFT_OWNERDRAW ? L"drawn " : L"") +
+                        (item.type & MFT_SEPARATOR ? L"-" : item.text));
+    EXPECT_EQ(shown, expected);
+}
+
+TEST_F(Commands, ASuiteToolBesideTheProgramStartsInItsFolderUnderEitherFileBoxCaption) {
+    HWND bar = start({}, {L"TS_Files.exe", L"TS_FileBox.exe"});
+    ASSERT_NE(bar, nullptr);
+    const std::wstring log = folder.path() + L"\\probe.log";
+    ASSERT_TRUE(PickMenuItem(bar, L"&File manager"));
+    records(1, log);
+    ASSERT_TRUE(PickMenuItem(bar, L"File &box"));
+    records(2, log);
+    ASSERT_TRUE(PickMenuItem(bar, L"File bo&x"));
+    const auto started = records(3, log);
+    ASSERT_EQ(started.size(), 3u);
+    EXPECT_EQ(started[0].commandLine, "\"" + path(L"TS_Files.exe") + "\"");
+    EXPECT_EQ(started[0].folder, Utf8(folder.path()));
+    EXPECT_EQ(started[1].commandLine, "\"" + path(L"TS_FileBox.exe") + "\"");
+    EXPECT_EQ(started[2].commandLine, started[1].commandLine);
+}
+
+TEST_F(Commands, WordStartsUnquotedAndAMissingExcelIsNamed) {
+    HWND bar = start({{18, path(L"My Office\\WINWORD.EXE")}}, {L"My Office\\WINWORD.EXE"});
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(PickMenuItem(bar, L"&Word"));
+    const auto started = records(1, folder.path() + L"\\My Office\\probe.log");
+    ASSERT_EQ(started.size(), 1u);
+    EXPECT_EQ(started[0].commandLine, path(L"My Office\\WINWORD.EXE"));
+
+    ASSERT_TRUE(PickMenuItem(bar, L"E&xcel"));
+    HWND box = orvane->waitForDialog();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(MessageBoxText(box),
+              L"Cannot locate the following program/file:\r\n\r\nC:\\Program Files\\\\Microsoft Office\\Office\\EXCEL.EXE\r\n\r\n");
+    PressButton(box, IDOK);
+}
+
+TEST_F(Commands, WebmailGoesThroughTheInputBoxToTheCustomBrowser) {
+    HWND bar = start({{4, "https://old.example.org"}, {21, path(L"browser.exe")}}, {L"browser.exe"});
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(PickMenuItem(bar, L"Web interface U&RL"));
+    HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(ControlText(box, IDC_PROMPT), L"Enter URL for webmail interface");
+    EXPECT_EQ(ControlText(box, IDC_BOX_TEXT), L"https://old.example.org");
+    SetControlText(box, IDC_BOX_TEXT, L"https://mail.example.org/inbox");
+    PressButton(box, IDOK);
+    const auto started = records(1, folder.path() + L"\\probe.log");
+    ASSERT_EQ(started.size(), 1u);
+    EXPECT_EQ(started[0].commandLine, "\"" + path(L"browser.exe") + "\" https://mail.example.org/inbox");
+    EXPECT_EQ(closeAndReadSettings().at(3), "https://mail.example.org/inbox");
+}
+
+TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
+    HWND bar = start({{3, "C:\\Old\\Deadlines.vrt"}}, {L"browser.exe"});
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(PickMenuItem(bar, L"Get c&ustom browser"));
+    HWND dialog = WaitForDialogTitled(orvane->id(), L"Get custom browser");
+    ASSERT_TRUE(AnswerFileDialog(dialog, folder.path() + L"\\browser.exe"));
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 10s));
+    ASSERT_TRUE(PickMenuItem(bar, L"&Get Deadlines file"));
+    dialog = WaitForDialogTitled(orvane->id(), L"Specify Deadlines file");
+    ASSERT_NE(dialog, nullptr);
+    PressButton(dialog, IDCANCEL);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 10s));
+
+    PressKeys(bar, {VK_MENU, 'Q'});
+    ASSERT_EQ(orvane->waitForExit(), 0u) << "Alt+Q";
+    const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
+    ASSERT_EQ(settings.size(), 39u);
+    EXPECT_EQ(settings[2], "C:\\Old\\Deadlines.vrt");
+    EXPECT_EQ(settings[20], path(L"browser.exe"));
+}
+
+TEST_F(Commands, YourProgramReportsAMissingFileAndStaysOpen) {
+    HWND bar = start({});
+    ASSERT_NE(bar, nullptr);
+    PressKeys(bar, {VK_F9});
+    HWND dialog = WaitForDialogTitled(orvane->id(), L"Load your program");
+    ASSERT_NE(dialog, nullptr);
+    SetControlText(dialog, IDC_PROGRAM, folder.path() + L"\\missing.exe");
+    PressButton(dialog, IDOK);
+    HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(MessageBoxText(box), L"Cannot find this program:\r\n\r\n" + folder.path() + L"\\missing.exe");
+    PressButton(box, IDOK);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(box); }, 5s));
+    EXPECT_TRUE(IsWindowVisible(dialog));
+    PressButton(dialog, IDCANCEL);
+    EXPECT_EQ(closeAndReadSettings().at(28), path(L"missing.exe"));
+}
+
+TEST_F(Commands, AboutShowsTheVersionAndClosesWithEsc) {
+    HWND bar = start({});
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(PickMenuItem(bar, L"&About this program"));
+    HWND about = WaitForDialogTitled(orvane->id(), L"About Orvane");
+    ASSERT_NE(about, nullptr);
+    EXPECT_EQ(ControlText(about, IDC_ABOUT_VERSION), L"Version 1.0.0");
+    PressKeys(about, {VK_ESCAPE});
+    EXPECT_TRUE(WaitFor([&] { return !IsWindow(about); }, 5s));
+}
+
+}  // namespace
+}  // namespace orvane::e2e
