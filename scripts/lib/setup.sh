@@ -22,7 +22,7 @@ ensure_packages() {
 
 NATIVE_PACKAGES=(cmake ninja-build g++ libgtest-dev)
 # The menu icons are built from the Tango theme with python3 and rsvg-convert.
-WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 xvfb xauth
+WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine xvfb xauth
   python3 librsvg2-bin tango-icon-theme)
 
 build_preset() {
@@ -43,6 +43,10 @@ ensure_wine_prefix() {
     wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
     wineserver -w
   fi
+  # Wine's own fonts (Tahoma, Marlett, MS Shell Dlg): without them dialogs are
+  # laid out in a stand-in font and caption buttons draw as letters.
+  local fonts="$WINEPREFIX/drive_c/windows/Fonts"
+  [ -f "$fonts/marlett.ttf" ] || cp /usr/share/wine/fonts/*.ttf "$fonts/"
 }
 
 # Runs a command with a private X server, and a Wine server started for it
