@@ -7,6 +7,7 @@
 #include "commands.h"
 #include "fake_system.h"
 #include "menu.h"
+#include "recording_routines.h"
 
 namespace orvane {
 namespace {
@@ -87,31 +88,6 @@ TEST(Dispatch, EveryItemReachesACommandButTheDoNothingOnes) {
     EXPECT_EQ(FindDispatchRow(L"&A", twice)->command, Command::About) << "the first equal caption wins";
 }
 
-class Routines : public MainWindowRoutines {
-public:
-    std::wstring typed, prompt;
-    std::vector<std::wstring> calls;
-    std::wstring inputBox(const std::wstring& p, const std::wstring& preset) override {
-        calls.push_back(L"input " + preset);
-        prompt = p;
-        return typed;
-    }
-    void showAbout() override { calls.push_back(L"about"); }
-    void showProgramLocations() override { calls.push_back(L"locations"); }
-    void showYourProgram() override { calls.push_back(L"your program"); }
-    void toggleDesktop() override { calls.push_back(L"desktop"); }
-    void exitProgram() override { calls.push_back(L"exit"); }
-    void useScreenWidth() override { calls.push_back(L"width"); }
-    void changeIconSize(int step) override { calls.push_back(L"size " + std::to_wstring(step)); }
-    void toggleIconStrip() override { calls.push_back(L"icons"); }
-    void toggleTopBottom() override { calls.push_back(L"top/bottom"); }
-    void chooseSkin() override { calls.push_back(L"skin"); }
-    void chooseMenuFont() override { calls.push_back(L"font"); }
-    void showCustomPrograms() override { calls.push_back(L"custom programs"); }
-    void showWebList() override { calls.push_back(L"web list"); }
-    void showWallpaper() override { calls.push_back(L"wallpaper"); }
-};
-
 struct CommandCase {
     const wchar_t* caption;
     std::function<void(App&, testing::FakeSystem&)> setUp;
@@ -153,7 +129,7 @@ TEST(Commands, StartWhatTheirCaptionsSay) {
         app.ProgramFolder = L"C:\\Orvane";
         app.ProgramFilesFolder = L"C:\\Program Files\\";
         app.MainWindowRef = 7;
-        Routines window;
+        testing::RecordingRoutines window;
         MainCommands commands(app, window);
         c.setUp(app, sys);
         commands.dispatch(c.caption);
@@ -173,7 +149,7 @@ TEST(Commands, StartWhatTheirCaptionsSay) {
 TEST(Commands, WebmailAsksThenOpensTheCustomBrowserAndRunAsElevates) {
     testing::FakeSystem sys;
     App app{sys};
-    Routines window;
+    testing::RecordingRoutines window;
     MainCommands commands(app, window);
     app.settings.WebmailUrl = L"https://old.example.org";
     commands.dispatch(L"Web interface U&RL");  // cancelled: nothing changes
