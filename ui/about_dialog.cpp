@@ -20,9 +20,14 @@ std::wstring ProductVersion() {
     if (!found) return {};
     const auto* data = static_cast<const char*>(LockResource(LoadResource(nullptr, found)));
     std::vector<char> copy(data, data + SizeofResource(nullptr, found));  // the query wants writable memory
+    // The version library is needed here only, so it is loaded here only.
+    using QueryFn = BOOL(WINAPI*)(const void*, const wchar_t*, void**, UINT*);
+    static const UniqueModule library(LoadLibraryW(L"version.dll"));
+    static const auto query =
+        reinterpret_cast<QueryFn>(reinterpret_cast<void*>(GetProcAddress(library.get(), "VerQueryValueW")));
     wchar_t* text = nullptr;
     UINT length = 0;
-    if (!VerQueryValueW(copy.data(), L"\\StringFileInfo\\040904B0\\ProductVersion", reinterpret_cast<void**>(&text),
+    if (!query || !query(copy.data(), L"\\StringFileInfo\\040904B0\\ProductVersion", reinterpret_cast<void**>(&text),
                         &length))
         return {};
     return std::wstring(text, length ? length - 1 : 0);

@@ -85,15 +85,18 @@ void MenuBar::dpiChanged(HWND window) {
 void MenuBar::loadResources(HWND window) {
     dpi_ = WindowDpi(window);
     font_.reset(MenuFont(dpi_));
-    const int size = scaled(16);
-    for (UniqueIcon& icon : icons_) icon.reset();
-    for (const MenuRow& row : MainMenuRows()) {
-        const int key = IconNumber(row.iconKey);
-        if (key <= 0 || key >= static_cast<int>(icons_.size()) || icons_[key]) continue;
-        // An icon the resources lack leaves its item without one.
-        icons_[key].reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kFirstMenuIcon + key),
-                                                        IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
-    }
+    for (UniqueIcon& icon : icons_) icon.reset();  // loaded at the new size when first drawn
+}
+
+// Loaded when first drawn: a start-up pays for no icon. A key the resources
+// lack leaves its item without one.
+HICON MenuBar::icon(int key) const {
+    if (key <= 0 || key >= static_cast<int>(icons_.size())) return nullptr;
+    UniqueIcon& icon = icons_[static_cast<std::size_t>(key)];
+    if (!icon)
+        icon.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kFirstMenuIcon + key),
+                                                 IMAGE_ICON, scaled(16), scaled(16), LR_DEFAULTCOLOR)));
+    return icon.get();
 }
 
 std::wstring MenuBar::caption(HWND window, UINT command) const {
@@ -140,8 +143,8 @@ bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
         return true;
     }
     const int iconSize = scaled(16);
-    if (const auto key = static_cast<std::size_t>(IconNumber(row.iconKey)); key < icons_.size() && icons_[key])
-        DrawIconEx(dc, r.left + scaled(4), (r.top + r.bottom - iconSize) / 2, icons_[key].get(), iconSize, iconSize, 0, nullptr,
+    if (HICON icon = this->icon(IconNumber(row.iconKey)))
+        DrawIconEx(dc, r.left + scaled(4), (r.top + r.bottom - iconSize) / 2, icon, iconSize, iconSize, 0, nullptr,
                    DI_NORMAL);
     HGDIOBJ previous = SelectObject(dc, font_.get());
     SetBkMode(dc, TRANSPARENT);

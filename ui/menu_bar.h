@@ -33,11 +33,12 @@ public:
 
 private:
     void loadResources(HWND window);
+    HICON icon(int key) const;
     int scaled(int pixelsAt96) const { return MulDiv(pixelsAt96, static_cast<int>(dpi_), 96); }
 
     UniqueAccelerators accelerators_;
     UniqueFont font_;
-    std::array<UniqueIcon, 74> icons_;  // by the icon key's number
+    mutable std::array<UniqueIcon, 74> icons_;  // by the icon key's number
     UINT dpi_ = 96;
 };
 

@@ -287,7 +287,13 @@ std::optional<std::wstring> Win32System::chooseFile(const FileRequest& request) 
     dialog.nMaxFile = static_cast<DWORD>(name.size());
     dialog.lpstrTitle = request.title.c_str();
     dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY;
-    if (!GetOpenFileNameW(&dialog)) return std::nullopt;
+    // Bound at first use: loading the common dialogs at start-up costs every
+    // start time and memory for a dialog most sessions never open.
+    using GetOpenFileNameFn = BOOL(WINAPI*)(OPENFILENAMEW*);
+    static const UniqueModule library(LoadLibraryW(L"comdlg32.dll"));
+    static const auto getOpenFileName = reinterpret_cast<GetOpenFileNameFn>(
+        reinterpret_cast<void*>(GetProcAddress(library.get(), "GetOpenFileNameW")));
+    if (!getOpenFileName || !getOpenFileName(&dialog)) return std::nullopt;
     return std::wstring(name.c_str());
 }
 

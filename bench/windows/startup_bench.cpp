@@ -17,18 +17,19 @@
 #include <string>
 #include <vector>
 
+#include "bench_support.h"
 #include "win_support.h"
 
 namespace ts = orvane::testsupport;
+using namespace orvane::bench;
 using Clock = std::chrono::steady_clock;
 
 namespace {
 
 constexpr int kMinimumRuns = 5;
-constexpr double kRatioGoal = 1.5;
+constexpr double kRatioGoal = 1.3;
 constexpr double kSizeGoalKiB = 2048;
 constexpr DWORD kStartTimeoutMs = 30000;
-constexpr DWORD kExitTimeoutMs = 10000;
 
 struct Program {
     const char* label;
@@ -42,34 +43,6 @@ struct Sample {
     double mebibytes;
 };
 
-// The handles of one started program. A run that fails half-way must not
-// leave its process behind: orvane.exe runs once at a time only.
-class Child {
-public:
-    Child() = default;
-    Child(const Child&) = delete;
-    Child& operator=(const Child&) = delete;
-    ~Child() {
-        if (info.hThread) CloseHandle(info.hThread);
-        if (!info.hProcess) return;
-        if (WaitForSingleObject(info.hProcess, 0) == WAIT_TIMEOUT) {
-            TerminateProcess(info.hProcess, 1);
-            WaitForSingleObject(info.hProcess, kExitTimeoutMs);
-        }
-        CloseHandle(info.hProcess);
-    }
-
-    PROCESS_INFORMATION info{};
-};
-
-// A zero on every line: a valid settings file that names no other file, so
-// start-up shows no message.
-std::string NeutralSettings() {
-    std::string text;
-    for (int line = 0; line < 39; ++line) text += "0\r\n";
-    return text;
-}
-
 void Fail(const Program& program, const char* what) {
     std::printf("error: %s %s (Windows error %lu)\n", program.label, what, GetLastError());
 }
@@ -77,14 +50,9 @@ void Fail(const Program& program, const char* what) {
 // One start: clock from CreateProcess until the program idles with its own
 // visible window; the working set is read just before the window is closed.
 std::optional<Sample> StartOnce(const Program& program, const std::wstring& folder) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    std::wstring commandLine = L"\"" + program.path + L"\"";
     Child child;
-
     const auto started = Clock::now();
-    if (!CreateProcessW(program.path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
-                        &startup, &child.info)) {
+    if (!child.start(program.path, folder)) {
         Fail(program, "could not be started");
         return std::nullopt;
     }
@@ -128,12 +96,6 @@ std::optional<Sample> StartOnce(const Program& program, const std::wstring& fold
     }
     return Sample{std::chrono::duration<double, std::milli>(painted - started).count(),
                   static_cast<double>(memory.PeakWorkingSetSize) / (1024.0 * 1024.0)};
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    const std::size_t middle = values.size() / 2;
-    return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
 const char* Verdict(bool met) { return met ? "met" : "NOT met"; }

@@ -1,0 +1,58 @@
+// What the Wine benchmarks share: owning a started program, medians, and a
+// settings file that makes orvane.exe start without a message.
+#pragma once
+
+#include <windows.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace orvane::bench {
+
+inline constexpr DWORD kExitTimeoutMs = 10000;
+
+// The handles of one started program. A run that fails half-way must not
+// leave its process behind: orvane.exe runs once at a time only.
+class Child {
+public:
+    Child() = default;
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+    ~Child() {
+        if (info.hThread) CloseHandle(info.hThread);
+        if (!info.hProcess) return;
+        if (WaitForSingleObject(info.hProcess, 0) == WAIT_TIMEOUT) {
+            TerminateProcess(info.hProcess, 1);
+            WaitForSingleObject(info.hProcess, kExitTimeoutMs);
+        }
+        CloseHandle(info.hProcess);
+    }
+
+    // Starts the program in the folder; false when it could not be started.
+    bool start(const std::wstring& program, const std::wstring& folder, const std::wstring& arguments = L"") {
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        std::wstring commandLine = L"\"" + program + L"\"" + (arguments.empty() ? L"" : L" " + arguments);
+        return CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                              &startup, &info) != 0;
+    }
+
+    PROCESS_INFORMATION info{};
+};
+
+// A zero on every line: a valid settings file that names no other file, so
+// start-up shows no message.
+inline std::string NeutralSettings() {
+    std::string text;
+    for (int line = 0; line < 39; ++line) text += "0\r\n";
+    return text;
+}
+
+inline double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    const std::size_t middle = values.size() / 2;
+    return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+}  // namespace orvane::bench
