@@ -11,51 +11,32 @@ namespace {
 
 using testing::FakeSystem;
 
-TEST(Reports, FileNotFoundShowsThePathOrAPlaceholderAndRestoresTheCursor) {
+class Helpers : public ::testing::Test {
+protected:
     FakeSystem sys;
     App app{sys};
-    ReportFileNotFound(app, L"C:\\Tools\\a b.exe");
-    ReportFileNotFound(app, L"", L"Custom Browser");
-    ASSERT_EQ(sys.messages.size(), 2u);
-    EXPECT_EQ(sys.messages[0].text, L"Cannot locate the following program/file:\r\n\r\nC:\\Tools\\a b.exe\r\n\r\n");
-    EXPECT_EQ(sys.messages[0].caption, L"Orvane");
-    EXPECT_EQ(sys.messages[0].icon, MessageIcon::Critical);
-    EXPECT_EQ(sys.messages[0].buttons, MessageButtons::Ok);
-    EXPECT_EQ(sys.messages[1].text, L"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\n");
-    EXPECT_EQ(sys.messages[1].caption, L"Custom Browser");
-    EXPECT_EQ(sys.journal.back(), L"cursor");
-}
+};
 
-TEST(Reports, FileErrorNamesTheOperationAndTheReason) {
-    FakeSystem sys;
-    App app{sys};
+TEST_F(Helpers, FileErrorNamesTheOperationAndTheReason) {
     ReportFileError(app, L"C:\\a.lst", L"");
     ReportFileError(app, L"   ");
     ASSERT_EQ(sys.messages.size(), 2u);
-    EXPECT_EQ(sys.messages[0].text,
-              L"Cannot delete this file :\r\n\r\nC:\\a.lst\r\n\r\n"
-              L"The error was probably triggered for the following reason : \r\n\r\n(unknown)\r\n");
-    EXPECT_EQ(sys.messages[1].text,
-              L"Cannot save this file :\r\n\r\n( no name specified or name is empty ! )\r\n\r\n"
-              L"The error was probably triggered for the following reason : \r\n\r\n(unknown)\r\n");
+    const std::wstring reason = L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n(unknown)\r\n";
+    EXPECT_EQ(sys.messages[0].text, L"Cannot delete this file :\r\n\r\nC:\\a.lst" + reason);
+    EXPECT_EQ(sys.messages[1].text, L"Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" + reason);
     EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
     EXPECT_EQ(sys.journal[0], L"beep");
 }
 
-TEST(Helpers, TrailingBackslash) {
-    auto ensure = [](std::wstring path) {
-        EnsureTrailingBackslash(path);
-        return path;
+TEST(PathPieces, TrailingBackslashAndTheOldRuntimesCuts) {
+    const std::pair<std::wstring, std::wstring> backslashed[] = {
+        {L"C:\\Data ", L"C:\\Data\\"}, {L"C:\\Data/", L"C:\\Data/"},  {L"C:\\Data\\", L"C:\\Data\\"},
+        {L" C:\\Data", L" C:\\Data\\"}, {L"C:\\Data\\  ", L"C:\\Data\\  "}, {L"", L"\\"},
     };
-    EXPECT_EQ(ensure(L"C:\\Data "), L"C:\\Data\\");
-    EXPECT_EQ(ensure(L"C:\\Data/"), L"C:\\Data/");
-    EXPECT_EQ(ensure(L"C:\\Data\\"), L"C:\\Data\\");
-    EXPECT_EQ(ensure(L" C:\\Data"), L" C:\\Data\\");
-    EXPECT_EQ(ensure(L"C:\\Data\\  "), L"C:\\Data\\  ");
-    EXPECT_EQ(ensure(L""), L"\\");
-}
-
-TEST(Helpers, PathPieces) {
+    for (auto [path, expected] : backslashed) {
+        EnsureTrailingBackslash(path);
+        EXPECT_EQ(path, expected);
+    }
     EXPECT_EQ(ParentFolder(L"a.exe"), L"");
     EXPECT_EQ(ParentFolder(L"C:\\a.exe"), L"C:");
     EXPECT_EQ(ParentFolder(L"C:\\Tools\\a b\\x.exe"), L"C:\\Tools\\a b");
@@ -67,9 +48,7 @@ TEST(Helpers, PathPieces) {
     EXPECT_EQ(LeftOf(L"", 1), L"");
 }
 
-TEST(Helpers, DeleteFileIfPresentIgnoresEmptyAndMissing) {
-    FakeSystem sys;
-    App app{sys};
+TEST_F(Helpers, DeleteFileIfPresentIgnoresEmptyAndMissing) {
     sys.addFile(L"C:\\x.txt");
     DeleteFileIfPresent(app, L"");
     DeleteFileIfPresent(app, L"C:\\y.txt");
@@ -78,49 +57,37 @@ TEST(Helpers, DeleteFileIfPresentIgnoresEmptyAndMissing) {
     EXPECT_FALSE(sys.fileExists(L"C:\\x.txt"));
 }
 
-TEST(OsVersion, NamesFollowTheProgramsOwnLabels) {
-    EXPECT_EQ(OsVersionName(10, 0), L"");
-    EXPECT_EQ(OsVersionName(6, 3), L"Win 7 + later");
-    EXPECT_EQ(OsVersionName(6, 1), L"Win 7 + later");
-    EXPECT_EQ(OsVersionName(7, 1), L"Win 7 + later");
-    EXPECT_EQ(OsVersionName(6, 0), L"Vista");
-    EXPECT_EQ(OsVersionName(5, 2), L"Win XP");
-    EXPECT_EQ(OsVersionName(5, 0), L"Win XP");
-    EXPECT_EQ(OsVersionName(4, 10), L"Win 2000");
-    EXPECT_EQ(OsVersionName(3, 51), L"");
+TEST_F(Helpers, OsVersionNamesFollowTheProgramsOwnLabels) {
+    const std::tuple<int, int, std::wstring> names[] = {
+        {10, 0, L""},     {6, 3, L"Win 7 + later"}, {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"},
+        {6, 0, L"Vista"}, {5, 2, L"Win XP"},         {5, 0, L"Win XP"},        {4, 10, L"Win 2000"}, {3, 51, L""},
+    };
+    for (const auto& [major, minor, name] : names) EXPECT_EQ(OsVersionName(major, minor), name) << major << '.' << minor;
 
-    FakeSystem sys;
-    App app{sys};
     app.OsVersionName = L"before";
     sys.version = {10, 0};
     DetectOsVersion(app);
     EXPECT_EQ(app.OsVersionCode, 10);
     EXPECT_EQ(app.OsMinorVersion, 0);
-    EXPECT_EQ(app.OsVersionName, L"before");
+    EXPECT_EQ(app.OsVersionName, L"before") << "a version without a label keeps the old name";
     sys.version = {5, 1};
     DetectOsVersion(app);
     EXPECT_EQ(app.OsVersionName, L"Win XP");
 }
 
-TEST(SystemFolders, ComeFromTheRegistryAndTheShellWithABackslash) {
-    FakeSystem sys;
-    App app{sys};
+TEST_F(Helpers, SystemFoldersComeFromTheRegistryAndTheShellWithABackslash) {
+    FindSystemFolders(app);
+    EXPECT_EQ(app.ProgramFilesFolder, L"\\") << "no registry value and no C:";
+    EXPECT_EQ(app.DocumentsFolder, L"\\");
+    sys.addFolder(L"C:\\");
+    FindSystemFolders(app);
+    EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");
+
     sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"D:\\Programs";
     sys.specialFolders[5] = std::wstring(L"C:\\Users\\ann\\Documents\0\0\0", 26);
     FindSystemFolders(app);
     EXPECT_EQ(app.ProgramFilesFolder, L"D:\\Programs\\");
     EXPECT_EQ(app.DocumentsFolder, L"C:\\Users\\ann\\Documents\\");
-}
-
-TEST(SystemFolders, MissingRegistryValueFallsBackToTheRootOrABackslash) {
-    FakeSystem sys;
-    App app{sys};
-    FindSystemFolders(app);
-    EXPECT_EQ(app.ProgramFilesFolder, L"\\");
-    EXPECT_EQ(app.DocumentsFolder, L"\\");
-    sys.addFolder(L"C:\\");
-    FindSystemFolders(app);
-    EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");
 }
 
 }  // namespace
