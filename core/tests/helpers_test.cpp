@@ -21,9 +21,11 @@ TEST_F(Helpers, FileErrorNamesTheOperationAndTheReason) {
     ReportFileError(app, L"C:\\a.lst", L"");
     ReportFileError(app, L"   ");
     ASSERT_EQ(sys.messages.size(), 2u);
-    const std::wstring reason = L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n(unknown)\r\n";
+    const std::wstring reason =
+        L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n(unknown)\r\n";
     EXPECT_EQ(sys.messages[0].text, L"Cannot delete this file :\r\n\r\nC:\\a.lst" + reason);
-    EXPECT_EQ(sys.messages[1].text, L"Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" + reason);
+    EXPECT_EQ(sys.messages[1].text,
+              L"Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" + reason);
     EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
     EXPECT_EQ(sys.journal[0], L"beep");
 }
@@ -62,7 +64,8 @@ TEST_F(Helpers, OsVersionNamesFollowTheProgramsOwnLabels) {
         {10, 0, L""},     {6, 3, L"Win 7 + later"}, {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"},
         {6, 0, L"Vista"}, {5, 2, L"Win XP"},         {5, 0, L"Win XP"},        {4, 10, L"Win 2000"}, {3, 51, L""},
     };
-    for (const auto& [major, minor, name] : names) EXPECT_EQ(OsVersionName(major, minor), name) << major << '.' << minor;
+    for (const auto& [major, minor, name] : names)
+        EXPECT_EQ(OsVersionName(major, minor), name) << major << '.' << minor;
 
     app.OsVersionName = L"before";
     sys.version = {10, 0};

@@ -159,7 +159,8 @@ TEST_F(Launching, BrowserAndArgumentCommandLinesQuoteOnlyWithABlank) {
     for (const auto& [argument, tail] : cases) {
         sys.journal.clear();
         LoadCustomBrowser(app, argument);
-        EXPECT_EQ(sys.journal, (std::vector<std::wstring>{L"events", L"start C:\\Web\\browser.exe" + std::wstring(tail)}));
+        EXPECT_EQ(sys.journal,
+                  (std::vector<std::wstring>{L"events", L"start C:\\Web\\browser.exe" + std::wstring(tail)}));
         sys.journal.clear();
         LaunchWithArgument(app, L"C:\\P\\p.exe", argument);
         EXPECT_EQ(sys.journal, (std::vector<std::wstring>{L"events", L"start C:\\P\\p.exe" + std::wstring(tail)}));

@@ -40,7 +40,8 @@ TEST_F(PathRules, DocumentPathSearchOrder) {
     };
     for (const Step& step : steps) {
         if (step.added) sys.addFile(step.added);
-        EXPECT_EQ(ResolveDocumentPath(app, step.path), step.expected) << "after adding " << (step.added ? step.added : L"-");
+        EXPECT_EQ(ResolveDocumentPath(app, step.path), step.expected)
+            << "after adding " << (step.added ? step.added : L"-");
     }
     EXPECT_EQ(TryDriveLetters(app, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
 }

@@ -62,7 +62,8 @@ TEST_F(SettingsFile, MissingFileIsReportedOnceAndLeavesInitialValues) {
 
     app.SettingsFilePath.clear();
     LoadSettings(app);
-    EXPECT_EQ(sys.messages.back().text, L"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\n");
+    EXPECT_EQ(sys.messages.back().text,
+              L"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\n");
 }
 
 TEST_F(SettingsFile, AllZeroFileEqualsNoFileWithoutTheMessage) {
