@@ -96,12 +96,9 @@ TEST_F(SettingsFile, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
 }
 
 TEST_F(SettingsFile, ShortFileKeepsTheRestAndLastLineNeedsNoLineEnd) {
-    app.settings.IconSize = 400;
+    load(File(true));
     load("15\r\n30\r\nC:\\Deadlines.vrt");
-    EXPECT_EQ(app.settings.MainTop, 15);
-    EXPECT_EQ(app.settings.MainLeft, 30);
-    EXPECT_EQ(app.settings.DeadlinesFile, L"C:\\Deadlines.vrt");
-    EXPECT_EQ(app.settings.IconSize, 400);
+    EXPECT_EQ(save(), File(true, {{1, "15"}, {2, "30"}, {3, "C:\\Deadlines.vrt"}}));
 }
 
 TEST_F(SettingsFile, LineValuesAsReadAndWrittenBack) {
