@@ -90,7 +90,8 @@ TEST_F(RealLaunch, RunningSuiteProgramIsBroughtForwardNotStartedTwice) {
     std::wstring program = folder + L"\\Tool.exe", document;
     LaunchSuiteProgram(app, program, document);
     HWND tool = nullptr;
-    ASSERT_TRUE(WaitFor([&] { return (tool = FindWindowW(L"Orvane.Probe", L"Tool")) != nullptr; }, 10s));
+    // Shown, not just created: only a visible window counts as running.
+    ASSERT_TRUE(WaitFor([&] { return (tool = FindWindowW(L"Orvane.Probe", L"Tool")) && IsWindowVisible(tool); }, 10s));
     HWND other = CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, nullptr,
                                nullptr, nullptr, nullptr);
     SetForegroundWindow(other);
