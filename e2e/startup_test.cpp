@@ -1,4 +1,7 @@
-// Start-up, single instance and shut-down of orvane.exe, as a user sees them.
+// Start-up, single instance and shut-down of orvane.exe as a user sees them,
+// on settings files good and bad (garbage, huge, locked, non-ANSI). How each
+// line is read is the unit tests' business; here the real program reads and
+// writes real files, places a real window and finds its earlier copy.
 #include <gtest/gtest.h>
 
 #include "orvane_process.h"
@@ -12,15 +15,45 @@ using namespace testsupport;
 
 constexpr int kBarWidthTwips = 16060;
 constexpr int kBarHeightTwips = 1020;
-constexpr char kDesignBackColor[] = "15790320";  // RGB(240, 240, 240)
 
-int Twips(int pixels) { return MulDiv(pixels, 1440, ScreenDpi()); }
+int Twips(int pixels, int dpi = ScreenDpi()) { return MulDiv(pixels, 1440, dpi); }
 
-// Closes the bar and returns the settings file it wrote.
-std::string CloseAndRead(const OrvaneProcess& orvane, const ProgramFolder& folder) {
+// The settings file the bar writes on closing: its place and size taken from
+// its rectangle, the design colour RGB(240, 240, 240), the default skin, and
+// the given lines.
+std::string BarFile(const ProgramFolder& folder, const RECT& r, std::map<int, std::string> lines = {},
+                    int dpi = ScreenDpi()) {
+    lines.insert({{1, std::to_string(Twips(r.top, dpi))},
+                  {2, std::to_string(Twips(r.left, dpi))},
+                  {10, std::to_string(Twips(r.right - r.left, dpi))},
+                  {11, std::to_string(Twips(r.bottom - r.top, dpi))},
+                  {12, "15790320"},
+                  {19, Utf8(folder.path()) + "\\Skin_Alba.bmp"}});
+    return CrLfLines(SettingsLines(lines));
+}
+
+// Starts the bar, which must come up without any message, and closes it as
+// its close box does: the bar's rectangle, and the settings file as it is
+// after the program ended by itself. Nothing when either went wrong.
+struct Closed {
+    RECT bar;
+    std::string written;
+};
+std::optional<Closed> StartQuietlyAndClose(const ProgramFolder& folder) {
+    OrvaneProcess orvane(folder);
+    const HWND bar = orvane.waitForMainWindow();
+    if (!bar || orvane.dialog()) return std::nullopt;
+    const RECT r = WindowRectangle(bar);
     orvane.close();
-    EXPECT_EQ(orvane.waitForExit(), 0u);
-    return ReadBytes(folder.settingsFile());
+    if (orvane.waitForExit() != 0u) return std::nullopt;
+    return Closed{r, ReadBytes(folder.settingsFile())};
+}
+
+std::string Garbage(std::size_t size) {
+    std::string bytes(size, '\0');
+    unsigned state = 12345;
+    for (char& c : bytes) c = static_cast<char>((state = state * 1103515245u + 12345u) >> 16);
+    return bytes;
 }
 
 TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
@@ -41,19 +74,14 @@ TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     EXPECT_EQ(TextOf(bar), L"Orvane");
     EXPECT_EQ(orvane.dialog(), nullptr) << "one message only";
     const RECT r = WindowRectangle(bar);
-    const int dpi = ScreenDpi();
     EXPECT_EQ(r.left, 0);
     EXPECT_EQ(r.top, 0);
-    EXPECT_EQ(r.right - r.left, MulDiv(kBarWidthTwips, dpi, 1440));
-    EXPECT_EQ(r.bottom - r.top, MulDiv(kBarHeightTwips, dpi, 1440));
+    EXPECT_EQ(r.right - r.left, MulDiv(kBarWidthTwips, ScreenDpi(), 1440));
+    EXPECT_EQ(r.bottom - r.top, MulDiv(kBarHeightTwips, ScreenDpi(), 1440));
 
-    const std::string written = CloseAndRead(orvane, folder);
-    const auto expected = SettingsLines({{10, std::to_string(Twips(r.right - r.left))},
-                                         {11, std::to_string(Twips(r.bottom - r.top))},
-                                         {12, kDesignBackColor},
-                                         {19, Utf8(folder.path()) + "\\Skin_Alba.bmp"}});
-    EXPECT_EQ(written, CrLfLines(expected));
-    EXPECT_EQ(SplitCrLf(written).size(), 39u);
+    orvane.close();
+    EXPECT_EQ(orvane.waitForExit(), 0u);
+    EXPECT_EQ(ReadBytes(folder.settingsFile()), BarFile(folder, r));
 }
 
 TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
@@ -83,64 +111,27 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
     const RECT r = WindowRectangle(bar);
     EXPECT_EQ(r.left, MulDiv(750, ScreenDpi(), 1440));
     EXPECT_EQ(r.top, MulDiv(1500, ScreenDpi(), 1440));
-    const auto lines = SplitCrLf(CloseAndRead(first, folder));
-    ASSERT_EQ(lines.size(), 39u);
-    EXPECT_EQ(lines[0], std::to_string(Twips(r.top)));
-    EXPECT_EQ(lines[1], std::to_string(Twips(r.left)));
+    first.close();
+    EXPECT_EQ(first.waitForExit(), 0u);
+    EXPECT_EQ(ReadBytes(folder.settingsFile()), BarFile(folder, r));
 }
 
-TEST(StartUp, UnusualSettingsSurviveAStartAndAClose) {
+TEST(StartUp, BlanksAroundValuesAndAWidthBeyondTheWorkArea) {
     ProgramFolder folder(L"unusual settings");
-    auto lines = SettingsLines({
+    std::string content = CrLfLines(SettingsLines({
         {1, "  1500"},                  // leading blanks before a number
         {3, "  C:\\two blanks.vrt  "},  // and around text, kept
-        {13, "12.5"},                   // halves go to the even neighbour
-        {26, "13.5"},
-        {22, "&H10"},    // hexadecimal
-        {23, "&HFFFF"},  // a 16-bit pattern
-        {31, "40000"},   // beyond 16 bits: the value stays as it was
-        {38, "0"},
-        {39, "&H7FFFFFFF"},
-    });
-    for (int extra = 40; extra <= 60; ++extra) lines.push_back("line " + std::to_string(extra));
-    std::string content = CrLfLines(lines);
+        {39, "&H7FFFFFFF"},             // clamped to the work area
+    }));
     content.resize(content.size() - 2);  // no final line end
     ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
-
-    OrvaneProcess orvane(folder);
-    HWND bar = orvane.waitForMainWindow();
-    ASSERT_NE(bar, nullptr);
-    const RECT r = WindowRectangle(bar);
-    const auto written = SplitCrLf(CloseAndRead(orvane, folder));
-
+    const auto closed = StartQuietlyAndClose(folder);
+    ASSERT_TRUE(closed);
+    EXPECT_EQ(Twips(closed->bar.top), 1500);
     RECT area{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    const auto expected = SettingsLines({
-        {1, std::to_string(Twips(r.top))},
-        {3, "  C:\\two blanks.vrt  "},
-        {10, std::to_string(Twips(r.right - r.left))},
-        {11, std::to_string(Twips(r.bottom - r.top))},
-        {12, kDesignBackColor},
-        {13, "12"},
-        {26, "14"},
-        {22, "16"},
-        {23, "-1"},
-        {19, Utf8(folder.path()) + "\\Skin_Alba.bmp"},
-        {39, std::to_string(Twips(area.right - area.left))},  // clamped to the work area
-    });
-    EXPECT_EQ(written, expected);
-    EXPECT_EQ(Twips(r.top), 1500);
-}
-
-TEST(StartUp, ShortFileWithoutAFinalLineEndKeepsItsLastValue) {
-    ProgramFolder folder(L"short settings");
-    ASSERT_TRUE(WriteBytes(folder.settingsFile(), "0\r\n0\r\nC:\\Deadlines.vrt\r\nhttps://mail.example.org"));
-    OrvaneProcess orvane(folder);
-    ASSERT_NE(orvane.waitForMainWindow(), nullptr);
-    const auto written = SplitCrLf(CloseAndRead(orvane, folder));
-    ASSERT_EQ(written.size(), 39u);
-    EXPECT_EQ(written[2], "C:\\Deadlines.vrt");
-    EXPECT_EQ(written[3], "https://mail.example.org");
+    EXPECT_EQ(closed->written, BarFile(folder, closed->bar, {{3, "  C:\\two blanks.vrt  "},
+                                                             {39, std::to_string(Twips(area.right - area.left))}}));
 }
 
 TEST(StartUp, TheSettingsFileIsWrittenInTheAnsiCodePage) {
@@ -148,12 +139,10 @@ TEST(StartUp, TheSettingsFileIsWrittenInTheAnsiCodePage) {
     // "für" fits the code page; "Łódź" does not, and its foreign letters become "?".
     ProgramFolder folder(L"f\u00fcr \u0141\u00f3d\u017a");
     ASSERT_TRUE(WriteBytes(folder.settingsFile(), CrLfLines(SettingsLines())));
-    OrvaneProcess orvane(folder);
-    ASSERT_NE(orvane.waitForMainWindow(), nullptr);
-    const auto written = SplitCrLf(CloseAndRead(orvane, folder));
-    ASSERT_EQ(written.size(), 39u);
+    const auto closed = StartQuietlyAndClose(folder);
+    ASSERT_TRUE(closed);
     const std::string root = Utf8(folder.path().substr(0, folder.path().find_last_of(L'\\')));
-    EXPECT_EQ(written[18], root + "\\f\xFCr ?\xF3" "d?\\Skin_Alba.bmp");
+    EXPECT_EQ(closed->written, BarFile(folder, closed->bar, {{19, root + "\\f\xFCr ?\xF3" "d?\\Skin_Alba.bmp"}}));
 }
 
 // The screen's DPI as programs started from now on see it; put back when done.
@@ -173,19 +162,47 @@ TEST(StartUp, TheBarKeepsItsSizeInTwipsOnAHighDpiScreen) {
     ProgramFolder folder(L"high dpi");
     ASSERT_TRUE(WriteBytes(folder.settingsFile(), CrLfLines(SettingsLines({{1, "1500"}, {2, "3000"}}))));
     ScreenDpiSetting highDpi(kDpi);
-    OrvaneProcess orvane(folder);
-    HWND bar = orvane.waitForMainWindow();
-    ASSERT_NE(bar, nullptr);
-    const RECT r = WindowRectangle(bar);
+    const auto closed = StartQuietlyAndClose(folder);
+    ASSERT_TRUE(closed);
+    const RECT& r = closed->bar;
     EXPECT_EQ(r.top, 150);
     EXPECT_EQ(r.left, 300);
     EXPECT_EQ(r.bottom - r.top, MulDiv(kBarHeightTwips, kDpi, 1440));
-    const auto written = SplitCrLf(CloseAndRead(orvane, folder));
-    ASSERT_EQ(written.size(), 39u);
-    EXPECT_EQ(written[0], "1500");
-    EXPECT_EQ(written[1], "3000");
-    EXPECT_EQ(written[9], std::to_string(MulDiv(r.right - r.left, 1440, kDpi)));
-    EXPECT_EQ(written[10], std::to_string(kBarHeightTwips));
+    EXPECT_EQ(closed->written, BarFile(folder, r, {{1, "1500"}, {2, "3000"}, {11, "1020"}}, kDpi));
+}
+
+TEST(BadSettings, BinaryGarbageIsReadAsWhatItSaysAndRewrittenClean) {
+    ProgramFolder folder(L"garbage settings");
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), Garbage(64 * 1024)));
+    const auto closed = StartQuietlyAndClose(folder);
+    ASSERT_TRUE(closed);
+    EXPECT_EQ(SplitCrLf(closed->written).size(), 39u);
+    EXPECT_EQ(closed->written.substr(closed->written.size() - 2), "\r\n");
+}
+
+TEST(BadSettings, TenMegabytesWithAMegabyteLineAreReadUpToLine39) {
+    ProgramFolder folder(L"huge settings");
+    const std::string longLine(1 << 20, 'x');
+    std::string content = CrLfLines(SettingsLines({{4, longLine}, {7, "11"}}));
+    while (content.size() < (10u << 20)) content += Garbage(1 << 16) + "\r\n";
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
+    const auto closed = StartQuietlyAndClose(folder);
+    ASSERT_TRUE(closed);
+    EXPECT_EQ(closed->written, BarFile(folder, closed->bar, {{4, longLine}, {7, "11"}}));
+}
+
+TEST(BadSettings, LockedFileIsNeitherReadNorOverwritten) {
+    ProgramFolder folder(L"locked settings");
+    const std::string content = CrLfLines(SettingsLines({{1, "1500"}, {7, "11"}}));
+    ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
+    HANDLE lock = CreateFileW(folder.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                              0, nullptr);
+    ASSERT_NE(lock, INVALID_HANDLE_VALUE);
+    const auto closed = StartQuietlyAndClose(folder);
+    CloseHandle(lock);
+    ASSERT_TRUE(closed) << "no message on reading nor on writing";
+    EXPECT_EQ(closed->bar.top, 0) << "nothing was read";
+    EXPECT_EQ(ReadBytes(folder.settingsFile()), content);
 }
 
 }  // namespace

@@ -4,138 +4,126 @@
 
 #include "app.h"
 #include "fake_system.h"
+#include "winlist.h"
 
 namespace orvane {
 namespace {
 
 using testing::FakeSystem;
 
+constexpr std::uint32_t kTool = 0x80;    // WS_EX_TOOLWINDOW
+constexpr std::uint32_t kApp = 0x40000;  // WS_EX_APPWINDOW
+const std::wstring kNotFound = L"Cannot locate the following program/file:\r\n\r\n";
+
 class Launching : public ::testing::Test {
 protected:
     Launching() {
         app.ProgramFolder = L"E:\\Apps\\Orvane";
         app.MainWindowRef = 1;
-        sys.current = L"C:\\Work";
+    }
+    // Starts the tool with the document (kept for a look afterwards); the program path as located.
+    std::wstring launch(std::wstring program, std::wstring doc = L"") {
+        LaunchSuiteProgram(app, program, document = doc);
+        return program;
     }
     const std::wstring& lastCommand() { return sys.started.back().commandLine; }
-    TopLevelWindow appWindow(WindowRef handle, const std::wstring& title) { return {handle, true, false, false, 0, title}; }
 
     FakeSystem sys;
     App app{sys};
+    std::wstring document;
 };
 
 TEST_F(Launching, ExecuteProcessAsksTheShellWithTheFilesFolder) {
     EXPECT_TRUE(ExecuteProcess(app, L"C:\\Tools\\a.exe", 77, 1, L"-x", false));
     sys.shellAccepts = false;
     EXPECT_FALSE(ExecuteProcess(app, L"a.exe", 0, 3, L"", true));
-    ASSERT_EQ(sys.shellRequests.size(), 2u);
-    const auto& first = sys.shellRequests[0];
-    EXPECT_EQ(first.verb, L"Open");
-    EXPECT_EQ(first.file, L"C:\\Tools\\a.exe");
-    EXPECT_EQ(first.parameters, L"-x");
-    EXPECT_EQ(first.directory, L"C:\\Tools");
-    EXPECT_EQ(first.owner, 77u);
-    EXPECT_EQ(first.showCode, 1);
-    EXPECT_EQ(sys.shellRequests[1].verb, L"runas");
-    EXPECT_EQ(sys.shellRequests[1].directory, L"");
-    EXPECT_EQ(sys.shellRequests[1].showCode, 3);
+    using Request = std::tuple<WindowRef, std::wstring, std::wstring, std::wstring, std::wstring, int>;
+    std::vector<Request> requests;
+    for (const auto& r : sys.shellRequests)
+        requests.emplace_back(r.owner, r.verb, r.file, r.parameters, r.directory, r.showCode);
+    EXPECT_EQ(requests, (std::vector<Request>{{77, L"Open", L"C:\\Tools\\a.exe", L"-x", L"C:\\Tools", 1},
+                                              {0, L"runas", L"a.exe", L"", L"", 3}}));
 }
 
-TEST_F(Launching, SuiteProgramWithADocumentInTheCurrentFolder) {
-    std::wstring program = L"C:\\Suite\\Tool.exe", document = L"notes.txt";
-    sys.addFile(program);
-    LaunchSuiteProgram(app, program, document);
-    ASSERT_EQ(sys.started.size(), 1u);
-    EXPECT_EQ(lastCommand(), L"C:\\Suite\\Tool.exe C:\\Work\\notes.txt");
-    EXPECT_EQ(sys.started[0].showCode, 1);
-    EXPECT_EQ(app.LastLaunchResult, 100);
-
-    sys.current = L"D:\\";
-    document = L"my notes.txt";
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(lastCommand(), L"C:\\Suite\\Tool.exe \"D:\\my notes.txt\"");
-}
-
-TEST_F(Launching, SuiteProgramDocumentQuotingAndTrimming) {
-    std::wstring program = L" C:\\Suite\\Tool.exe ";
-    sys.addFile(program);
-    std::wstring document = L"\"C:\\My Docs\\a.vrt\"";
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(lastCommand(), L"C:\\Suite\\Tool.exe \"C:\\My Docs\\a.vrt\"");
-    EXPECT_EQ(document, L"\"C:\\My Docs\\a.vrt\"");
-
-    document = L" ";
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(lastCommand(), L" C:\\Suite\\Tool.exe ") << "the program alone, as given";
-
-    document = L"   ";  // long enough to be made a path before the blank test
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(lastCommand(), L"C:\\Suite\\Tool.exe \"C:\\Work\\   \"");
-
-    document = L"x";
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(lastCommand(), L"C:\\Suite\\Tool.exe x") << "a one-letter document is not made a path";
-}
-
-TEST_F(Launching, SuiteProgramDocumentFoundInADriveFolder) {
-    std::wstring program = L"C:\\Suite\\Tool.exe";
+TEST_F(Launching, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlank) {
+    const std::wstring program = L" C:\\Suite\\Tool.exe ";  // trimmed in a command with a document only
     sys.addFile(program);
     sys.addFile(L"F:\\Drive_G\\Docs\\a.vrt");
-    std::wstring document = L"G:\\Docs\\a.vrt";
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(lastCommand(), L"C:\\Suite\\Tool.exe F:\\Drive_G\\Docs\\a.vrt");
+    struct Case {
+        const wchar_t *current, *document, *command;
+    } cases[] = {
+        {L"C:\\Work", L"notes.txt", L"C:\\Suite\\Tool.exe C:\\Work\\notes.txt"},
+        {L"D:\\", L"my notes.txt", L"C:\\Suite\\Tool.exe \"D:\\my notes.txt\""},
+        {L"C:\\Work", L" ", L" C:\\Suite\\Tool.exe "},  // the program alone, as given
+        {L"C:\\Work", L"   ", L"C:\\Suite\\Tool.exe \"C:\\Work\\   \""},  // made a path before the blank test
+        {L"C:\\Work", L"x", L"C:\\Suite\\Tool.exe x"},  // a one-letter document is not made a path
+        {L"C:\\Work", L"G:\\Docs\\a.vrt", L"C:\\Suite\\Tool.exe F:\\Drive_G\\Docs\\a.vrt"},
+        {L"C:\\Work", L"\"C:\\My Docs\\a.vrt\"", L"C:\\Suite\\Tool.exe \"C:\\My Docs\\a.vrt\""},
+    };
+    for (const Case& c : cases) {
+        sys.current = c.current;
+        launch(program, c.document);
+        EXPECT_EQ(lastCommand(), c.command) << c.document;
+        EXPECT_EQ(sys.started.back().showCode, 1);
+    }
+    EXPECT_EQ(document, L"\"C:\\My Docs\\a.vrt\"") << "unquoted, then quoted again for its blank";
+    EXPECT_EQ(app.LastLaunchResult, 100);
+    EXPECT_TRUE(sys.messages.empty());
 }
 
 TEST_F(Launching, SuiteProgramSearchOrder) {
+    // Each file added wins over the ones before it.
     const std::wstring stored = L"G:\\TellmarkSet\\Tool\\Tool.exe";
-    auto locate = [&] {
-        std::wstring program = stored, document;
-        LaunchSuiteProgram(app, program, document);
-        return program;
-    };
-    sys.addFile(L"E:\\Apps\\Orvane\\Tool.exe");
-    EXPECT_EQ(locate(), L"E:\\Apps\\Orvane\\Tool.exe");
-    sys.addFile(L"E:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe");
-    EXPECT_EQ(locate(), L"E:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe");
-    sys.addFile(L"`:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe");
-    EXPECT_EQ(locate(), L"E:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe");
-    sys.addFile(L"D:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe");
-    EXPECT_EQ(locate(), L"D:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe");
-    sys.addFile(L"C:\\TellmarkSet\\Tool.exe");
-    EXPECT_EQ(locate(), L"C:\\TellmarkSet\\Tool.exe");
-    sys.addFile(stored);
-    EXPECT_EQ(locate(), stored);
-    EXPECT_EQ(sys.started.back().commandLine, stored);
+    for (const std::wstring found :
+         {L"E:\\Apps\\Orvane\\Tool.exe", L"E:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe",
+          L"D:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe", L"C:\\Drive_G\\TellmarkSet\\Tool\\Tool.exe",
+          L"C:\\TellmarkSet\\Tool.exe", stored.c_str()}) {
+        sys.addFile(found);
+        EXPECT_EQ(launch(stored), found);
+        EXPECT_EQ(lastCommand(), found);
+    }
 }
 
-TEST_F(Launching, SuiteProgramScanReachesTheSixCharactersAfterZ) {
+TEST_F(Launching, SuiteProgramScanReachesTheSixCharactersAfterZThenThisProgramsDrive) {
     sys.addFile(L"`:\\Drive_G\\T\\Tool.exe");
-    std::wstring program = L"G:\\T\\Tool.exe", document;
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(program, L"`:\\Drive_G\\T\\Tool.exe");
+    EXPECT_EQ(launch(L"G:\\T\\Tool.exe"), L"`:\\Drive_G\\T\\Tool.exe");
 
     app.ProgramFolder = L"b:\\Orvane";  // a drive the scan does not reach
     sys.files.clear();
     sys.addFile(L"b:\\Drive_G\\T\\Tool.exe");
-    program = L"G:\\T\\Tool.exe";
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(program, L"b:\\Drive_G\\T\\Tool.exe");
+    EXPECT_EQ(launch(L"G:\\T\\Tool.exe"), L"b:\\Drive_G\\T\\Tool.exe");
 }
 
 TEST_F(Launching, MissingSuiteProgramIsReported) {
-    std::wstring program = L"G:\\TellmarkSet\\Tool\\Tool.exe", document = L"a.txt";
-    LaunchSuiteProgram(app, program, document);
+    launch(L"G:\\TellmarkSet\\Tool\\Tool.exe", L"a.txt");
     EXPECT_TRUE(sys.started.empty());
     ASSERT_EQ(sys.messages.size(), 1u);
-    EXPECT_EQ(sys.messages[0].text,
-              L"Cannot locate the following program/file:\r\n\r\nG:\\TellmarkSet\\Tool\\Tool.exe\r\n\r\n");
+    EXPECT_EQ(sys.messages[0].text, kNotFound + L"G:\\TellmarkSet\\Tool\\Tool.exe\r\n\r\n");
 }
 
-TEST_F(Launching, RunningSuiteProgramIsBroughtForwardInstead) {
-    std::wstring program = L"C:\\Suite\\Tool.exe", document = L"a.txt";
-    sys.addFile(program);
-    sys.windows = {appWindow(5, L"tool"), appWindow(6, L"Tool.exe"), appWindow(7, L"Tool"), appWindow(8, L"Tool")};
-    LaunchSuiteProgram(app, program, document);
+TEST_F(Launching, WindowListKeepsOnlyTheWindowsATaskBarWouldShowInTheirOrder) {
+    // handle, visible, parent, owner, extended style, title
+    sys.windows = {{2, true, false, false, 0, L"Editor"},  {1, true, false, false, 0, L"Orvane"},
+                   {3, false, false, false, 0, L"Hidden"},  {4, true, true, false, 0, L"Child"},
+                   {5, true, false, true, 0, L"Owned"},     {6, true, false, true, kApp, L"Owned app"},
+                   {7, true, false, false, kTool, L"Tool"}, {8, true, false, false, kTool | kApp, L"Tool app"},
+                   {9, true, false, true, kTool | kApp, L"Owned tool app"},
+                   {10, true, false, false, 0, L""},        {11, true, false, false, 0, L"Editor"}};
+    app.windowList = {{L"stale", 99}};
+    RefreshWindowList(app);
+
+    std::vector<std::pair<std::wstring, WindowRef>> listed;
+    for (const auto& entry : app.windowList) listed.emplace_back(entry.title, entry.handle);
+    EXPECT_EQ(listed, (decltype(listed){{L"Editor", 2}, {L"Owned app", 6}, {L"Owned tool app", 9}, {L"Editor", 11}}));
+    EXPECT_EQ(FindListedWindow(app.windowList, L"Editor"), 2u);
+    EXPECT_EQ(FindListedWindow(app.windowList, L"editor"), 0u);
+}
+
+TEST_F(Launching, RunningSuiteProgramIsBroughtForwardByItsExactTitle) {
+    sys.addFile(L"C:\\Suite\\Tool.exe");
+    sys.windows = {{5, true, false, false, 0, L"tool"}, {6, true, false, false, 0, L"Tool.exe"},
+                   {7, true, false, false, 0, L"Tool"}, {8, true, false, false, 0, L"Tool"}};
+    launch(L"C:\\Suite\\Tool.exe", L"a.txt");
     EXPECT_TRUE(sys.started.empty());
     ASSERT_EQ(sys.messages.size(), 1u);
     EXPECT_EQ(sys.messages[0].text, L"Program running already");
@@ -145,43 +133,40 @@ TEST_F(Launching, RunningSuiteProgramIsBroughtForwardInstead) {
     EXPECT_EQ(app.LastLaunchResult, 1);
 }
 
-TEST_F(Launching, TitleInOtherCaseStartsASecondCopy) {
-    std::wstring program = L"C:\\Suite\\Tool.exe", document;
-    sys.addFile(program);
-    sys.windows = {appWindow(5, L"TOOL")};
-    LaunchSuiteProgram(app, program, document);
-    EXPECT_EQ(sys.started.size(), 1u);
-    EXPECT_TRUE(sys.messages.empty());
-}
-
-TEST_F(Launching, RefusedStartKeepsThePreviousResult) {
-    std::wstring program = L"C:\\Suite\\Tool.exe", document;
-    sys.addFile(program);
+TEST_F(Launching, RefusedStartOrAnOversizedTaskKeepsThePreviousResult) {
+    sys.addFile(L"C:\\Suite\\Tool.exe");
     app.LastLaunchResult = 9;
     sys.startsSucceed = false;
-    LaunchSuiteProgram(app, program, document);
+    launch(L"C:\\Suite\\Tool.exe");
     EXPECT_EQ(app.LastLaunchResult, 9);
     sys.startsSucceed = true;
     sys.nextTaskId = 70000;  // does not fit the 16-bit result
-    LaunchSuiteProgram(app, program, document);
+    launch(L"C:\\Suite\\Tool.exe");
     EXPECT_EQ(app.LastLaunchResult, 9);
+    EXPECT_EQ(sys.started.size(), 2u);
     EXPECT_TRUE(sys.messages.empty());
 }
 
-TEST_F(Launching, CustomBrowserCommandLines) {
+TEST_F(Launching, BrowserAndArgumentCommandLinesQuoteOnlyWithABlank) {
     app.settings.CustomBrowser = L"C:\\Web\\browser.exe";
     sys.addFile(app.settings.CustomBrowser);
-    LoadCustomBrowser(app, L"");
-    LoadCustomBrowser(app, L"https://mail.example.org/?a=1");
-    LoadCustomBrowser(app, L"C:\\My Pages\\index.html");
-    LoadCustomBrowser(app, L"\"quoted already\"");
-    ASSERT_EQ(sys.started.size(), 4u);
-    EXPECT_EQ(sys.started[0].commandLine, L"C:\\Web\\browser.exe");
-    EXPECT_EQ(sys.started[1].commandLine, L"C:\\Web\\browser.exe https://mail.example.org/?a=1");
-    EXPECT_EQ(sys.started[2].commandLine, L"C:\\Web\\browser.exe \"C:\\My Pages\\index.html\"");
-    EXPECT_EQ(sys.started[3].commandLine, L"C:\\Web\\browser.exe \"\"quoted already\"\"");
-    EXPECT_EQ(sys.journal[0], L"events") << "pending events run before the start";
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+        {L"", L""},
+        {L"https://mail.example.org/?a=1", L" https://mail.example.org/?a=1"},
+        {L"C:\\My Pages\\index.html", L" \"C:\\My Pages\\index.html\""},
+        {L"\"quoted already\"", L" \"\"quoted already\"\""},
+    };
+    for (const auto& [argument, tail] : cases) {
+        sys.journal.clear();
+        LoadCustomBrowser(app, argument);
+        EXPECT_EQ(sys.journal,
+                  (std::vector<std::wstring>{L"events", L"start C:\\Web\\browser.exe" + std::wstring(tail)}));
+        sys.journal.clear();
+        LaunchWithArgument(app, L"C:\\P\\p.exe", argument);
+        EXPECT_EQ(sys.journal, (std::vector<std::wstring>{L"events", L"start C:\\P\\p.exe" + std::wstring(tail)}));
+    }
     EXPECT_EQ(app.LaunchPath, L"C:\\Web\\browser.exe");
+    EXPECT_TRUE(sys.messages.empty());
 }
 
 TEST_F(Launching, MissingCustomBrowserIsReportedUnderItsOwnTitle) {
@@ -190,19 +175,7 @@ TEST_F(Launching, MissingCustomBrowserIsReportedUnderItsOwnTitle) {
     EXPECT_TRUE(sys.started.empty());
     ASSERT_EQ(sys.messages.size(), 1u);
     EXPECT_EQ(sys.messages[0].caption, L"Custom Browser");
-    EXPECT_EQ(sys.messages[0].text, L"Cannot locate the following program/file:\r\n\r\nC:\\Web\\gone.exe\r\n\r\n");
-}
-
-TEST_F(Launching, ArgumentCommandLines) {
-    LaunchWithArgument(app, L"C:\\P\\p.exe", L"");
-    LaunchWithArgument(app, L"C:\\P\\p.exe", L"a");
-    LaunchWithArgument(app, L"C:\\P\\p.exe", L"a b");
-    ASSERT_EQ(sys.started.size(), 3u);
-    EXPECT_EQ(sys.started[0].commandLine, L"C:\\P\\p.exe");
-    EXPECT_EQ(sys.started[1].commandLine, L"C:\\P\\p.exe a");
-    EXPECT_EQ(sys.started[2].commandLine, L"C:\\P\\p.exe \"a b\"");
-    EXPECT_EQ(sys.journal[0], L"events") << "pending events run before the start";
-    EXPECT_TRUE(sys.messages.empty());
+    EXPECT_EQ(sys.messages[0].text, kNotFound + L"C:\\Web\\gone.exe\r\n\r\n");
 }
 
 TEST_F(Launching, ExploreOpensTheCurrentFolder) {

@@ -29,19 +29,15 @@ public:
     void setProgramTitle(const std::wstring& t) override { title = t; }
     WindowRef findApplicationWindow(const std::wstring& t) override {
         titleWhenSearched = title;
-        auto it = applicationWindows.find(t);
-        return it == applicationWindows.end() ? 0 : it->second;
+        return applicationWindows.count(t) ? applicationWindows[t] : 0;
     }
     void endProcessNow() override { ended = true; }
     void initCommonControls() override { calls.push_back(L"initCommonControls"); }
     WindowRef handle() override { return 500; }
-    void setTop(std::int32_t v) override { rect.top = Pixels(v); calls.push_back(L"top " + std::to_wstring(v)); }
-    void setLeft(std::int32_t v) override { rect.left = Pixels(v); calls.push_back(L"left " + std::to_wstring(v)); }
-    void setWidth(std::int32_t v) override { rect.width = Pixels(v); calls.push_back(L"width " + std::to_wstring(v)); }
-    void setHeight(std::int32_t v) override {
-        rect.height = Pixels(v);
-        calls.push_back(L"height " + std::to_wstring(v));
-    }
+    void setTop(std::int32_t v) override { set(rect.top, L"top ", v); }
+    void setLeft(std::int32_t v) override { set(rect.left, L"left ", v); }
+    void setWidth(std::int32_t v) override { set(rect.width, L"width ", v); }
+    void setHeight(std::int32_t v) override { set(rect.height, L"height ", v); }
     TwipsRect geometry() override { return rect; }
     TwipsRect workArea() override { return area; }
     std::int32_t backColor() override { return 0xF0F0F0; }
@@ -50,7 +46,10 @@ public:
     void buildMenuBar() override { calls.push_back(L"menuBar"); }
 
 private:
-    static std::int32_t Pixels(std::int32_t twips) { return twips / 15 * 15; }
+    void set(std::int32_t& edge, const wchar_t* name, std::int32_t twips) {
+        edge = twips / 15 * 15;
+        calls.push_back(name + std::to_wstring(twips));
+    }
 };
 
 class StartUp : public ::testing::Test {
@@ -60,12 +59,15 @@ protected:
         sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"C:\\Program Files";
         sys.specialFolders[5] = L"C:\\users\\ann\\Documents";
     }
-    void writeSettings(const std::map<int, std::string>& values) {
+    // A fresh start on a settings file with these lines; the others empty.
+    LoadOutcome load(const std::map<int, std::string>& values = {}) {
         std::string text;
         for (int line = 1; line <= 39; ++line) text += (values.count(line) ? values.at(line) : "") + "\r\n";
-        sys.addFile(L"C:\\Orvane\\Orvane.ini", text);
+        if (!values.empty()) sys.addFile(L"C:\\Orvane\\Orvane.ini", text);
+        app.settings = {};
+        host.calls.clear();
+        return LoadMainWindow(app, host, state);
     }
-    LoadOutcome load() { return LoadMainWindow(app, host, state); }
 
     FakeSystem sys;
     App app{sys};
@@ -93,58 +95,44 @@ TEST_F(StartUp, FirstStartReportsTheMissingFileAndOpensTheSingleStripBar) {
     EXPECT_EQ(host.rect.width, 16050) << "a whole number of pixels";
 }
 
-TEST_F(StartUp, TheWindowIsPlacedFromTheSettingsAndReadBack) {
-    writeSettings({{1, "301"}, {2, "1207"}, {10, "9000"}, {11, "2000"}, {39, "0"}});
-    load();
-    EXPECT_EQ(host.calls[1], L"top 301");
-    EXPECT_EQ(host.calls[2], L"left 1207");
-    EXPECT_EQ(host.calls[3], L"width 9000");
-    EXPECT_EQ(host.calls[4], L"height 2000");
-    EXPECT_EQ(app.settings.MainTop, 300);
-    EXPECT_EQ(app.settings.MainLeft, 1200);
-    EXPECT_FALSE(state.atTop);
+TEST_F(StartUp, TheWindowIsPlacedFromTheSettingsAndAtTopOnlyWhereItsTopMeetsTheWorkArea) {
+    for (const auto& [areaTop, atTop] : {std::pair{0, false}, {300, true}, {315, false}}) {
+        host.area.top = areaTop;
+        load({{1, "301"}, {2, "1207"}, {10, "9000"}, {11, "2000"}});
+        EXPECT_EQ(std::vector(host.calls.begin() + 1, host.calls.begin() + 5),
+                  (std::vector<std::wstring>{L"top 301", L"left 1207", L"width 9000", L"height 2000"}));
+        EXPECT_EQ(app.settings.MainTop, 300) << "read back as the window took it";
+        EXPECT_EQ(app.settings.MainLeft, 1200);
+        EXPECT_EQ(state.atTop, atTop) << areaTop;
+    }
     EXPECT_TRUE(sys.messages.empty());
 }
 
-TEST_F(StartUp, AtTopOnlyWhenTheTopEdgeMatchesTheWorkAreaExactly) {
-    host.area.top = 450;
-    writeSettings({{1, "450"}});
-    load();
-    EXPECT_TRUE(state.atTop);
-    host.area.top = 465;
-    load();
-    EXPECT_FALSE(state.atTop);
-}
-
 TEST_F(StartUp, ExpandedWidthIsClampedToTheWorkArea) {
-    writeSettings({{38, "1"}, {39, "30000"}});
-    load();
+    load({{38, "1"}, {39, "30000"}});
     EXPECT_EQ(app.settings.ExpandedWidth, 19200);
-    writeSettings({{39, "12000"}});
-    app.settings = {};
-    load();
+    load({{39, "12000"}});
     EXPECT_EQ(app.settings.ExpandedWidth, 12000);
 }
 
 TEST_F(StartUp, AUsableSkinIsKeptAndAnyOtherFallsBackToTheDefault) {
     sys.addFile(L"D:\\Skins\\Skin_Blue.BMP");
-    writeSettings({{19, "D:\\Skins\\Skin_Blue.BMP"}});
-    load();
-    EXPECT_EQ(app.settings.SkinFile, L"D:\\Skins\\Skin_Blue.BMP");
-    for (const char* unusable : {"D:\\Skins\\Skin_Gone.bmp", "D:\\Skins\\Skin_Blue.png"}) {
-        sys.addFile(L"D:\\Skins\\Skin_Blue.png");
-        writeSettings({{19, unusable}});
-        load();
-        EXPECT_EQ(app.settings.SkinFile, L"C:\\Orvane\\Skin_Alba.bmp") << unusable;
+    sys.addFile(L"D:\\Skins\\Skin_Blue.png");
+    for (const auto& [skin, used] : std::map<std::string, std::wstring>{
+             {"D:\\Skins\\Skin_Blue.BMP", L"D:\\Skins\\Skin_Blue.BMP"},
+             {"D:\\Skins\\Skin_Gone.bmp", L"C:\\Orvane\\Skin_Alba.bmp"},
+             {"D:\\Skins\\Skin_Blue.png", L"C:\\Orvane\\Skin_Alba.bmp"}}) {
+        load({{19, skin}});
+        EXPECT_EQ(app.settings.SkinFile, used) << skin;
+        EXPECT_EQ(host.calls[6], L"skin " + used);
     }
 }
 
 TEST_F(StartUp, SecondCopyBringsTheFirstForwardAndDoesNothingElse) {
-    writeSettings({{1, "100"}});
     host.earlierInstance = true;
     host.applicationWindows[L"Orvane"] = 40;
     sys.zOrderAbove = {{40, 41}, {41, 42}};
-    EXPECT_EQ(load(), LoadOutcome::HandedOver);
+    EXPECT_EQ(load({{1, "100"}}), LoadOutcome::HandedOver);
     EXPECT_TRUE(host.ended);
     EXPECT_EQ(host.titleWhenSearched, L"Redundant instance");
     EXPECT_EQ(sys.foregrounded, (std::vector<WindowRef>{41, 42, 0, 0, 0}));

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "app.h"
+#include "conversions.h"
 #include "fake_system.h"
 
 namespace orvane {
@@ -17,17 +19,19 @@ const std::wstring kIni = L"C:\\Orvane\\Orvane.ini";
 // Written independently of the program's own table: the lines that hold text.
 const std::set<int> kTextLines = {3, 4, 5, 6, 14, 15, 16, 17, 18, 19, 20, 21, 28, 29, 30, 32, 33, 34, 35, 36};
 
-std::string Lines(const std::vector<std::string>& lines, const char* end = "\r\n") {
+// The 39 lines of a file, each ending in CR LF: every line its own value
+// ("text 3", "70"), or with distinct=false the initial ones ("", "0"); then
+// the given lines (1-based) replaced.
+std::string File(bool distinct, const std::map<int, std::string>& changed = {}) {
     std::string text;
-    for (const auto& line : lines) text += line + end;
+    for (int n = 1; n <= 39; ++n) {
+        const bool isText = kTextLines.count(n) > 0;
+        if (changed.count(n)) text += changed.at(n);
+        else if (distinct) text += isText ? "text " + std::to_string(n) : std::to_string(n * 10);
+        else text += isText ? "" : "0";
+        text += "\r\n";
+    }
     return text;
-}
-
-// A file whose every line holds a value of its own.
-std::vector<std::string> DistinctLines() {
-    std::vector<std::string> lines;
-    for (int n = 1; n <= 39; ++n) lines.push_back(kTextLines.count(n) ? "text " + std::to_string(n) : std::to_string(n * 10));
-    return lines;
 }
 
 class SettingsFile : public ::testing::Test {
@@ -37,39 +41,13 @@ protected:
         sys.addFile(kIni, bytes);
         LoadSettings(app);
     }
+    const std::string& save() {
+        SaveSettings(app);
+        return sys.files[kIni];
+    }
     FakeSystem sys;
     App app{sys};
 };
-
-TEST_F(SettingsFile, InitialValuesAreWrittenAs39LinesOfZeroAndEmpty) {
-    SaveSettings(app);
-    std::vector<std::string> expected;
-    for (int n = 1; n <= 39; ++n) expected.push_back(kTextLines.count(n) ? "" : "0");
-    EXPECT_EQ(sys.files[kIni], Lines(expected));
-}
-
-TEST_F(SettingsFile, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
-    load(Lines(DistinctLines()));
-    const Settings& s = app.settings;
-    EXPECT_EQ(s.MainTop, 10);
-    EXPECT_EQ(s.MainLeft, 20);
-    EXPECT_EQ(s.DeadlinesFile, L"text 3");
-    EXPECT_EQ(s.ListFontSize, 70);
-    EXPECT_EQ(s.ReservedLine9, 90);
-    EXPECT_EQ(s.MainBackColor, 120);
-    EXPECT_EQ(s.IconSize, 130);
-    EXPECT_EQ(s.WordPath, L"text 18");
-    EXPECT_EQ(s.SkinFile, L"text 19");
-    EXPECT_EQ(s.CustomBrowser, L"text 21");
-    EXPECT_EQ(s.CustomGrid2Row, 270);
-    EXPECT_EQ(s.WallpaperStretch, 310);
-    EXPECT_EQ(s.ReturnPassword, L"text 32");
-    EXPECT_EQ(s.WebBrowser3, L"text 36");
-    EXPECT_EQ(s.ExpandedWidth, 390);
-    EXPECT_TRUE(sys.messages.empty());
-    SaveSettings(app);
-    EXPECT_EQ(sys.files[kIni], Lines(DistinctLines()));
-}
 
 TEST_F(SettingsFile, MissingFileIsReportedOnceAndLeavesInitialValues) {
     LoadSettings(app);
@@ -77,108 +55,90 @@ TEST_F(SettingsFile, MissingFileIsReportedOnceAndLeavesInitialValues) {
     EXPECT_EQ(sys.messages[0].text, L"Cannot locate the following program/file:\r\n\r\nC:\\Orvane\\Orvane.ini\r\n\r\n");
     EXPECT_EQ(sys.messages[0].caption, L"Orvane");
     EXPECT_EQ(sys.messages[0].icon, MessageIcon::Critical);
+    EXPECT_EQ(sys.messages[0].buttons, MessageButtons::Ok);
+    EXPECT_EQ(sys.journal.back(), L"cursor") << "restored after the message";
     EXPECT_EQ(app.settings, Settings{});
+    EXPECT_EQ(save(), File(false)) << "initial values are 39 lines of zero and empty";
 
     app.SettingsFilePath.clear();
     LoadSettings(app);
-    EXPECT_EQ(sys.messages.back().text, L"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\n");
+    EXPECT_EQ(sys.messages.back().text,
+              L"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\n");
 }
 
 TEST_F(SettingsFile, AllZeroFileEqualsNoFileWithoutTheMessage) {
-    std::vector<std::string> zeros;
-    for (int n = 1; n <= 39; ++n) zeros.push_back(kTextLines.count(n) ? "" : "0");
-    load(Lines(zeros));
+    load(File(false));
     EXPECT_EQ(app.settings, Settings{});
     EXPECT_TRUE(sys.messages.empty());
 }
 
-TEST_F(SettingsFile, ShortFileKeepsTheRestAndLastLineNeedsNoLineEnd) {
-    app.settings.IconSize = 400;
-    load("15\r\n30\r\nC:\\Deadlines.vrt");
-    EXPECT_EQ(app.settings.MainTop, 15);
-    EXPECT_EQ(app.settings.MainLeft, 30);
-    EXPECT_EQ(app.settings.DeadlinesFile, L"C:\\Deadlines.vrt");
-    EXPECT_EQ(app.settings.IconSize, 400);
-}
-
-TEST_F(SettingsFile, LinesPastThe39thAreIgnoredAndNotKept) {
-    auto lines = DistinctLines();
-    for (int n = 40; n <= 60; ++n) lines.push_back("extra " + std::to_string(n));
-    load(Lines(lines));
-    EXPECT_EQ(app.settings.ExpandedWidth, 390);
-    SaveSettings(app);
-    EXPECT_EQ(sys.files[kIni], Lines(DistinctLines()));
-}
-
-TEST_F(SettingsFile, TextKeepsItsBlanksAndNumbersAreReadLeniently) {
-    auto lines = DistinctLines();
-    lines[0] = "   -45";         // MainTop: leading blanks
-    lines[6] = "  12pt";         // ListFontSize: numeric prefix
-    lines[7] = "1";              // ListFontBold: a hand-edited true
-    lines[11] = "&HFF00&";       // MainBackColor: hexadecimal
-    lines[12] = "12.5";          // IconSize: half to even
-    lines[21] = "13.5";          // CustomTop
-    lines[25] = "none";          // CustomGrid1Row: text
-    lines[17] = "  C:\\x.exe  "; // WordPath
-    load(Lines(lines));
+TEST_F(SettingsFile, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
+    std::string withExtras = File(true);
+    for (int n = 40; n <= 60; ++n) withExtras += "extra " + std::to_string(n) + "\r\n";  // ignored, not kept
+    load(withExtras);
     const Settings& s = app.settings;
-    EXPECT_EQ(s.MainTop, -45);
-    EXPECT_EQ(s.ListFontSize, 12);
-    EXPECT_EQ(s.ListFontBold, 1);
-    EXPECT_EQ(s.MainBackColor, 0xFF00);
-    EXPECT_EQ(s.IconSize, 12);
-    EXPECT_EQ(s.CustomTop, 14);
-    EXPECT_EQ(s.CustomGrid1Row, 0);
-    EXPECT_EQ(s.WordPath, L"  C:\\x.exe  ");
-    SaveSettings(app);
-    EXPECT_NE(sys.files[kIni].find("\r\n  C:\\x.exe  \r\n"), std::string::npos);
-    EXPECT_EQ(sys.files[kIni].substr(0, 5), "-45\r\n");
+    EXPECT_EQ(std::tie(s.MainTop, s.MainLeft, s.ListFontSize, s.ListFontBold, s.ReservedLine9, s.MainWidth,
+                       s.MainHeight, s.MainBackColor, s.IconSize, s.CustomTop, s.CustomLeft, s.CustomHeight),
+              std::make_tuple(10, 20, 70, 80, 90, 100, 110, 120, 130, 220, 230, 240));
+    EXPECT_EQ(std::tie(s.CustomWidth, s.CustomGrid1Row, s.CustomGrid2Row, s.WallpaperStretch, s.WebBrowserChoice,
+                       s.ExpandedLayout, s.ExpandedWidth),
+              std::make_tuple(250, 260, 270, 310, 370, 380, 390));
+    const std::vector<std::wstring> texts = {  // in file order
+        s.DeadlinesFile, s.WebmailUrl, s.AddressesFile, s.ListFontName, s.AccessPath, s.PublisherPath, s.ExcelPath,
+        s.PowerPointPath, s.WordPath, s.SkinFile, s.SkinFolder, s.CustomBrowser, s.CustomListFile, s.YourProgram,
+        s.WallpaperFile, s.ReturnPassword, s.WebListFile, s.WebBrowser1, s.WebBrowser2, s.WebBrowser3};
+    std::vector<std::wstring> expected;
+    for (int n : kTextLines) expected.push_back(L"text " + std::to_wstring(n));
+    EXPECT_EQ(texts, expected);
+    EXPECT_TRUE(sys.messages.empty());
+    EXPECT_EQ(save(), File(true));
 }
 
-TEST_F(SettingsFile, NumberOutsideItsTypeKeepsThePreviousValue) {
-    app.settings.IconSize = 400;
-    app.settings.ExpandedLayout = 1;
-    app.settings.MainTop = 7;
-    auto lines = DistinctLines();
-    lines[12] = "40000";
-    lines[37] = "-32769";
-    lines[0] = "99999999999";
-    lines[1] = "2147483647";
-    load(Lines(lines));
-    EXPECT_EQ(app.settings.IconSize, 400);
-    EXPECT_EQ(app.settings.ExpandedLayout, 1);
-    EXPECT_EQ(app.settings.MainTop, 7);
-    EXPECT_EQ(app.settings.MainLeft, 2147483647);
-    EXPECT_EQ(app.settings.ExpandedWidth, 390);
+TEST_F(SettingsFile, ShortFileKeepsTheRestAndLastLineNeedsNoLineEnd) {
+    load(File(true));
+    load("15\r\n30\r\nC:\\Deadlines.vrt");
+    EXPECT_EQ(save(), File(true, {{1, "15"}, {2, "30"}, {3, "C:\\Deadlines.vrt"}}));
 }
 
-TEST_F(SettingsFile, SavedFileIsTheValuesPlus78BytesOfLineEnds) {
-    app.settings.WordPath = L"C:\\Office\\WINWORD.EXE";
-    app.settings.MainWidth = 16065;
-    app.settings.ListFontBold = -1;
-    SaveSettings(app);
-    const std::string& file = sys.files[kIni];
-    // WordPath, "16065", "-1" and seventeen other number lines of "0".
-    EXPECT_EQ(file.size(), 21u + 5 + 2 + 17 + 78);
-    EXPECT_NE(file.find("\r\n-1\r\n"), std::string::npos);
+TEST_F(SettingsFile, LineValuesAsReadAndWrittenBack) {
+    struct Case {
+        int line;
+        std::string read, written;
+    } cases[] = {
+        {1, "   -45", "-45"},                    // leading blanks before a number
+        {7, "  12pt", "12"},                     // a numeric prefix
+        {8, "1", "1"},                           // ListFontBold: a hand-edited true
+        {9, "-1", "-1"},
+        {9, "", "0"},                            // an empty number line is zero
+        {12, "&HFF00&", "65280"},                // hexadecimal
+        {13, "12.5", "12"},                      // halves go to the even neighbour
+        {22, "13.5", "14"},
+        {26, "none", "0"},                       // text where a number belongs
+        {18, "  C:\\x.exe  ", "  C:\\x.exe  "},  // text keeps its blanks
+        // A number that does not fit its type keeps the value before.
+        {13, "40000", "130"},
+        {38, "-32769", "380"},
+        {1, "99999999999", "10"},
+        {2, "2147483647", "2147483647"},
+    };
+    for (const Case& c : cases) {
+        load(File(true));  // every value its own before
+        load(File(true, {{c.line, c.read}}));
+        EXPECT_EQ(save(), File(true, {{c.line, c.written}})) << c.read;
+    }
 }
 
 TEST_F(SettingsFile, SaveReplacesTheOldFileWithAFreshOne) {
     sys.addFile(kIni, "old content that is much longer than the new one ...........................");
-    SaveSettings(app);
-    ASSERT_GE(sys.journal.size(), 2u);
-    EXPECT_EQ(sys.journal[0], L"delete " + kIni);
-    EXPECT_EQ(sys.journal[1], L"write " + kIni);
-    EXPECT_EQ(sys.files[kIni].rfind("0\r\n0\r\n", 0), 0u);
+    EXPECT_EQ(save(), File(false));
+    EXPECT_EQ(sys.journal, (std::vector<std::wstring>{L"delete " + kIni, L"write " + kIni}));
 }
 
 TEST_F(SettingsFile, LockedFileIsReadAsNothingAndNotOverwritten) {
     sys.lockedFiles.insert(kIni);
-    load(Lines(DistinctLines()));
+    load(File(true));
     EXPECT_EQ(app.settings, Settings{});
-    EXPECT_TRUE(sys.messages.empty());
-    SaveSettings(app);
-    EXPECT_EQ(sys.files[kIni], Lines(DistinctLines()));
+    EXPECT_EQ(save(), File(true));
     EXPECT_TRUE(sys.messages.empty());
 }
 
@@ -198,31 +158,68 @@ TEST_F(SettingsFile, OnlyTheOldRuntimesErrorMinusOneIsReported) {
 }
 
 TEST_F(SettingsFile, AnsiTextSurvivesAndForeignCharactersBecomeQuestionMarks) {
-    auto lines = DistinctLines();
-    lines[2] = "C:\\D\xFCsseldorf\\\x80uro.vrt";  // ü and € in Windows-1252
-    load(Lines(lines));
+    load(File(true, {{3, "C:\\D\xFCsseldorf\\\x80uro.vrt"}}));  // ü and € in Windows-1252
     EXPECT_EQ(app.settings.DeadlinesFile, L"C:\\D\u00FCsseldorf\\\u20ACuro.vrt");
     app.settings.AddressesFile = L"C:\\\u0141\u00F3d\u017A.vrt";  // Ł and ź have no place in the code page
-    SaveSettings(app);
-    EXPECT_NE(sys.files[kIni].find("\r\nC:\\D\xFCsseldorf\\\x80uro.vrt\r\n"), std::string::npos);
-    EXPECT_NE(sys.files[kIni].find("\r\nC:\\?\xF3" "d?.vrt\r\n"), std::string::npos);
+    EXPECT_EQ(save(), File(true, {{3, "C:\\D\xFCsseldorf\\\x80uro.vrt"}, {5, "C:\\?\xF3" "d?.vrt"}}));
 }
 
 TEST_F(SettingsFile, GarbageHugeFilesAndLongLinesAreTakenInStride) {
     std::string garbage;
     for (int i = 0; i < 4096; ++i) garbage += static_cast<char>((i * 7919) % 256);
     load(garbage);
-    SaveSettings(app);
-    EXPECT_EQ(std::count(sys.files[kIni].begin(), sys.files[kIni].end(), '\n'), 39);
+    const std::string& written = save();
+    EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 39);
 
     const std::string longLine(1 << 20, 'a');
-    auto lines = DistinctLines();
-    lines[2] = longLine;
-    std::string huge = Lines(lines);
+    std::string huge = File(true, {{3, longLine}});
     while (huge.size() < 10u << 20) huge += longLine + "\r\n";
     load(huge);
-    EXPECT_EQ(app.settings.DeadlinesFile.size(), longLine.size());
-    EXPECT_EQ(app.settings.ExpandedWidth, 390);
+    EXPECT_EQ(save(), File(true, {{3, longLine}})) << "read up to line 39, the long line whole";
+}
+
+// The conversions the file format depends on.
+
+TEST(NumericPrefix, LongestNumberAfterWhiteSpaceOrZeroOrNothingOnOverflow) {
+    const std::pair<const wchar_t*, std::optional<double>> cases[] = {
+        {L"1440", 1440}, {L"   -15", -15}, {L"\t 7", 7}, {L"+3", 3}, {L"12abc", 12}, {L"12.5", 12.5},
+        {L".5", 0.5}, {L"5.", 5}, {L"1e3", 1000}, {L"2D2", 200}, {L"1e", 1}, {L"1e+x", 1}, {L"1 2", 1},
+        {L"1,000", 1}, {L"1e400", std::nullopt},
+        // Without a number: zero.
+        {L"", 0}, {L"abc", 0}, {L"--5", 0}, {L".", 0}, {L"- 5", 0}, {L"&Q1", 0}, {L"&H", 0},
+        // Hexadecimal: four digits or fewer are a 16-bit pattern unless "&" marks a 32-bit literal.
+        {L"&H10", 16}, {L"&hff", 255}, {L" &H7FFF", 32767}, {L"&HFFFF", -1}, {L"&HFFFF&", 65535},
+        {L"&H10000", 65536}, {L"&HFFFFFFFF", -1}, {L"&HFFG", 255}, {L"&H100000000", std::nullopt},
+    };
+    for (const auto& [text, expected] : cases) EXPECT_EQ(NumericPrefix(text), expected) << '"' << text << '"';
+}
+
+TEST(Rounding, HalvesToEvenAndOverflowAfterRounding) {
+    const std::pair<double, std::optional<std::int16_t>> to16[] = {
+        {12.5, 12}, {13.5, 14}, {-2.5, -2}, {2.6, 3}, {32767.0, 32767}, {32767.4, 32767},
+        {32767.5, std::nullopt}, {-32768.5, -32768}, {-32769.0, std::nullopt},
+    };
+    for (const auto& [value, expected] : to16) EXPECT_EQ(RoundToInt16(value), expected) << value;
+    const std::pair<double, std::optional<std::int32_t>> to32[] = {
+        {0.5, 0}, {1.5, 2}, {2147483647.0, 2147483647}, {2147483648.0, std::nullopt}, {-2147483648.0, INT32_MIN},
+    };
+    for (const auto& [value, expected] : to32) EXPECT_EQ(RoundToInt32(value), expected) << value;
+}
+
+TEST(Trimming, RemovesBlanksButNotTabs) {
+    EXPECT_EQ(TrimBlanks(L"  a b  "), L"a b");
+    EXPECT_EQ(TrimBlanks(L"\ta\t"), L"\ta\t");
+    EXPECT_EQ(TrimBlanks(L"   "), L"");
+    EXPECT_EQ(TrimLeadingBlanks(L"  x "), L"x ");
+    EXPECT_EQ(TrimTrailingBlanks(L"  x "), L"  x");
+}
+
+TEST(SplitLines, AcceptsEveryLineEndAndStopsAtTheLimit) {
+    using Lines = std::vector<std::wstring_view>;
+    EXPECT_EQ(SplitLines(L"a\r\nb\rc\nd", 10), (Lines{L"a", L"b", L"c", L"d"}));
+    EXPECT_EQ(SplitLines(L"a\r\n\r\nb\r\n", 10), (Lines{L"a", L"", L"b"}));
+    EXPECT_EQ(SplitLines(L"a\nb\nc", 2), (Lines{L"a", L"b"}));
+    EXPECT_TRUE(SplitLines(L"", 5).empty());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // Real launches under Wine: the probe records the exact command line and
-// working folder of every start.
+// working folder of every start. What leads to a report instead of a start is
+// the unit tests' business; here the real system runs what the logic built.
 #include <gtest/gtest.h>
 
 #include "app.h"
@@ -28,9 +29,11 @@ protected:
     }
     void TearDown() override { SetCurrentDirectoryW(previousFolder); }
 
-    std::vector<ProbeRecord> waitForRecords(std::size_t count) {
+    // The starts of the probe in that folder, once there are at least count of them.
+    std::vector<ProbeRecord> waitForRecords(std::size_t count, const std::wstring& in = L"") {
         std::vector<ProbeRecord> records;
-        WaitFor([&] { return (records = ReadProbeLog(folder + L"\\probe.log")).size() >= count; }, 10s);
+        const std::wstring log = (in.empty() ? folder : in) + L"\\probe.log";
+        WaitFor([&] { return (records = ReadProbeLog(log)).size() >= count; }, 10s);
         return records;
     }
     // Absence needs a wait: a start that should not happen gets time to show up.
@@ -45,19 +48,16 @@ protected:
     App app{sys};
 };
 
-TEST_F(RealLaunch, ExecuteProcessRunsTheProgramInItsOwnFolder) {
+TEST_F(RealLaunch, ExecuteProcessRunsTheProgramInItsOwnFolderOrABareNameInTheCurrentOne) {
     ASSERT_TRUE(ExecuteProcess(app, probe, 0, 1, L"plain \"two words\" \u00fcml", false));
-    const auto records = waitForRecords(1);
+    auto records = waitForRecords(1);
     ASSERT_EQ(records.size(), 1u);
     EXPECT_EQ(records[0].commandLine, Utf8(L"\"" + probe + L"\" plain \"two words\" \u00fcml"));
     EXPECT_EQ(records[0].folder, Utf8(folder));
-}
 
-TEST_F(RealLaunch, ExecuteProcessOfABareNameStartsInTheCurrentFolder) {
     CopyInto(probe, current);
     ASSERT_TRUE(ExecuteProcess(app, L"probe.exe", 0, 1, L"", false));
-    std::vector<ProbeRecord> records;
-    WaitFor([&] { return !(records = ReadProbeLog(current + L"\\probe.log")).empty(); }, 10s);
+    records = waitForRecords(1, current);
     ASSERT_EQ(records.size(), 1u);
     EXPECT_EQ(records[0].folder, Utf8(current));
 }
@@ -73,25 +73,15 @@ TEST_F(RealLaunch, SuiteProgramOpensADocumentOfTheCurrentFolder) {
     EXPECT_NE(app.LastLaunchResult, 0);
 }
 
-TEST_F(RealLaunch, SuiteProgramFoundBesideThisProgram) {
+TEST_F(RealLaunch, SuiteProgramFoundBesideThisProgramAfterScanningEveryDriveFolder) {
     CreateDirectoryW(app.ProgramFolder.c_str(), nullptr);
     CopyInto(probe, app.ProgramFolder, L"Tool.exe");
     std::wstring program = L"C:\\Drive_Q\\TellmarkSet\\Tool\\Tool.exe", document = L"C:\\a.txt";
     LaunchSuiteProgram(app, program, document);
     EXPECT_EQ(program, app.ProgramFolder + L"\\Tool.exe");
-    std::vector<ProbeRecord> records;
-    WaitFor([&] { return !(records = ReadProbeLog(app.ProgramFolder + L"\\probe.log")).empty(); }, 10s);
+    const auto records = waitForRecords(1, app.ProgramFolder);
     ASSERT_EQ(records.size(), 1u);
     EXPECT_EQ(records[0].commandLine, Utf8(program + L" C:\\a.txt"));
-}
-
-TEST_F(RealLaunch, MissingSuiteProgramIsReportedAndNothingStarts) {
-    std::wstring program = folder + L"\\missing.exe", document;
-    LaunchSuiteProgram(app, program, document);
-    ASSERT_EQ(sys.messages.size(), 1u);
-    EXPECT_EQ(sys.messages[0], L"Orvane: Cannot locate the following program/file:\r\n\r\n" + folder +
-                                   L"\\missing.exe\r\n\r\n");
-    EXPECT_EQ(recordsAfterAWhile(), 0u);
 }
 
 TEST_F(RealLaunch, RunningSuiteProgramIsBroughtForwardNotStartedTwice) {
@@ -100,7 +90,8 @@ TEST_F(RealLaunch, RunningSuiteProgramIsBroughtForwardNotStartedTwice) {
     std::wstring program = folder + L"\\Tool.exe", document;
     LaunchSuiteProgram(app, program, document);
     HWND tool = nullptr;
-    ASSERT_TRUE(WaitFor([&] { return (tool = FindWindowW(L"Orvane.Probe", L"Tool")) != nullptr; }, 10s));
+    // Shown, not just created: only a visible window counts as running.
+    ASSERT_TRUE(WaitFor([&] { return (tool = FindWindowW(L"Orvane.Probe", L"Tool")) && IsWindowVisible(tool); }, 10s));
     HWND other = CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, nullptr,
                                nullptr, nullptr, nullptr);
     SetForegroundWindow(other);
@@ -112,49 +103,29 @@ TEST_F(RealLaunch, RunningSuiteProgramIsBroughtForwardNotStartedTwice) {
     EXPECT_EQ(recordsAfterAWhile(), 1u);
     EXPECT_EQ(GetForegroundWindow(), tool);
 
-    // A window title is compared in exact case: "TOOL" is not "Tool".
-    std::wstring upper = folder + L"\\TOOL.exe";
-    LaunchSuiteProgram(app, upper, document);
-    EXPECT_EQ(waitForRecords(2).size(), 2u);
-
     DestroyWindow(other);
-    for (HWND w; (w = FindWindowW(L"Orvane.Probe", nullptr)) != nullptr;) {
-        PostMessageW(w, WM_CLOSE, 0, 0);
-        WaitFor([&] { return !IsWindow(w); }, 5s);
-    }
+    PostMessageW(tool, WM_CLOSE, 0, 0);
+    WaitFor([&] { return !IsWindow(tool); }, 5s);
 }
 
-TEST_F(RealLaunch, CustomBrowserGetsTheAddressQuotedOnlyWithABlank) {
+TEST_F(RealLaunch, BrowserAndArgumentStartsQuoteOnlyWithABlankAndSayNothingWhenTheyFail) {
     app.settings.CustomBrowser = probe;
-    const std::wstring targets[] = {L"https://mail.example.org/?a=1&b=2", L"C:\\My Pages\\index \u00fc.html", L""};
-    std::vector<ProbeRecord> records;
+    const std::pair<std::wstring, std::wstring> starts[] = {
+        {L"https://mail.example.org/?a=1&b=2", probe + L" https://mail.example.org/?a=1&b=2"},
+        {L"C:\\My Pages\\index \u00fc.html", probe + L" \"C:\\My Pages\\index \u00fc.html\""},
+        {L"", probe},
+    };
     for (std::size_t i = 0; i < 3; ++i) {  // one at a time, so the log keeps their order
-        LoadCustomBrowser(app, targets[i]);
-        records = waitForRecords(i + 1);
+        LoadCustomBrowser(app, starts[i].first);
+        LaunchWithArgument(app, probe, starts[i].first);
+        const auto records = waitForRecords(2 * i + 2);
+        ASSERT_EQ(records.size(), 2 * i + 2);
+        EXPECT_EQ(records[2 * i].commandLine, Utf8(starts[i].second));
+        EXPECT_EQ(records[2 * i + 1].commandLine, Utf8(starts[i].second));
+        EXPECT_EQ(records[2 * i].folder, Utf8(current));
     }
-    ASSERT_EQ(records.size(), 3u);
-    EXPECT_EQ(records[0].commandLine, Utf8(probe + L" https://mail.example.org/?a=1&b=2"));
-    EXPECT_EQ(records[1].commandLine, Utf8(probe + L" \"C:\\My Pages\\index \u00fc.html\""));
-    EXPECT_EQ(records[2].commandLine, Utf8(probe));
-    EXPECT_EQ(records[2].folder, Utf8(current));
-    EXPECT_TRUE(sys.messages.empty());
-}
-
-TEST_F(RealLaunch, MissingCustomBrowserIsReportedUnderItsTitle) {
-    app.settings.CustomBrowser = folder + L"\\gone.exe";
-    LoadCustomBrowser(app, L"x");
-    ASSERT_EQ(sys.messages.size(), 1u);
-    EXPECT_EQ(sys.messages[0].substr(0, 16), L"Custom Browser: ");
-    EXPECT_EQ(recordsAfterAWhile(), 0u);
-}
-
-TEST_F(RealLaunch, ProgramWithArgumentAndAMissingProgramSaysNothing) {
-    LaunchWithArgument(app, probe, L"two words");
     LaunchWithArgument(app, folder + L"\\gone.exe", L"x");
-    const auto records = waitForRecords(1);
-    ASSERT_EQ(records.size(), 1u);
-    EXPECT_EQ(records[0].commandLine, Utf8(probe + L" \"two words\""));
-    EXPECT_EQ(recordsAfterAWhile(), 1u);
+    EXPECT_EQ(recordsAfterAWhile(), 6u);
     EXPECT_TRUE(sys.messages.empty());
 }
 

@@ -27,15 +27,15 @@ protected:
 TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
     const std::wstring file = folder + L"\\a file.txt";
     WriteBytes(file, "x");
-    EXPECT_TRUE(sys.fileExists(file));
-    EXPECT_FALSE(sys.fileExists(folder));
-    EXPECT_FALSE(sys.fileExists(folder + L"\\"));
-    EXPECT_FALSE(sys.fileExists(folder + L"\\missing.txt"));
-    EXPECT_FALSE(sys.fileExists(L""));
-    EXPECT_TRUE(sys.pathExists(file));
-    EXPECT_TRUE(sys.pathExists(folder));
-    EXPECT_TRUE(sys.pathExists(L"C:\\"));
-    EXPECT_FALSE(sys.pathExists(folder + L"\\missing"));
+    const std::tuple<std::wstring, bool, bool> paths[] = {  // path, a file, a file or folder
+        {file, true, true},          {folder, false, true},   {folder + L"\\", false, true},
+        {L"C:\\", false, true},      {L"", false, false},     {folder + L"\\missing.txt", false, false},
+        {folder + L"\\missing", false, false},
+    };
+    for (const auto& [path, isFile, exists] : paths) {
+        EXPECT_EQ(sys.fileExists(path), isFile) << Utf8(path);
+        EXPECT_EQ(sys.pathExists(path), exists) << Utf8(path);
+    }
 }
 
 TEST_F(RealSystem, WrittenBytesReadBackExactlyAndDeleteRemoves) {
@@ -73,14 +73,6 @@ TEST_F(RealSystem, AnsiCodecFollowsTheCodePage) {
     EXPECT_EQ(sys.fromAnsi("D\xFCsseldorf \x80"), L"D\u00fcsseldorf \u20ac");
 }
 
-TEST_F(RealSystem, CurrentFolderIsTheProcesssOwn) {
-    wchar_t previous[MAX_PATH];
-    GetCurrentDirectoryW(MAX_PATH, previous);
-    SetCurrentDirectoryW(folder.c_str());
-    EXPECT_EQ(sys.currentFolder(), folder);
-    SetCurrentDirectoryW(previous);
-}
-
 TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStrings) {
     const wchar_t* key = L"Software\\Orvane Tests";
     const std::wstring text = L"C:\\Some where";
@@ -90,9 +82,8 @@ TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStrings) {
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"number", REG_DWORD, &number, sizeof number);
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"expandable", REG_EXPAND_SZ, L"%TEMP%", 14);
     EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"text"), text);
-    EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"number"), std::nullopt);
-    EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"expandable"), std::nullopt);
-    EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"missing"), std::nullopt);
+    for (const wchar_t* value : {L"number", L"expandable", L"missing"})
+        EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, value), std::nullopt) << Utf8(value);
     EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, L"Software\\No Such Key", L"x"), std::nullopt);
     RegDeleteTreeW(HKEY_CURRENT_USER, key);
 }
