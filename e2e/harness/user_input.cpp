@@ -29,14 +29,8 @@ std::vector<MenuItem> ReadMenu(HWND window) {
 
     std::vector<MenuItem> items;
     std::wistringstream lines(dump);
-    for (std::wstring line; std::getline(lines, line);) {
-        MenuItem item;
-        std::wistringstream fields(line);
-        fields >> item.depth >> item.id >> item.type;
-        fields.get();  // the tab before the text
-        std::getline(fields, item.text);
+    for (MenuItem item; lines >> item.depth >> item.id >> item.type && lines.get() && std::getline(lines, item.text);)
         items.push_back(item);
-    }
     return items;
 }
 

@@ -90,7 +90,7 @@ struct Given {
 // The bar's commands on a machine of their own.
 struct Bar {
     Bar() {
-        app.ProgramFolder = L"C:\\Orvane";
+        app.ProgramFolder = L"C:\\P";
         app.ProgramFilesFolder = L"C:\\Program Files\\";
         app.MainWindowRef = 7;
     }
@@ -102,8 +102,7 @@ struct Bar {
         if (!sys.messages.empty()) return sys.messages.back().text;
         if (!sys.shellRequests.empty()) {
             const auto& r = sys.shellRequests.back();
-            return r.verb + L" " + r.file + L" [" + r.parameters + L"] in " + r.directory + L" " +
-                   std::to_wstring(app.LastLaunchResult);
+            return r.verb + L" " + r.file + L" [" + r.parameters + L"] in " + r.directory + L" " + std::to_wstring(app.LastLaunchResult);
         }
         if (!sys.started.empty()) return L"start " + sys.started.back().commandLine;
         if (!window.calls.empty()) return window.calls.back();
@@ -123,23 +122,21 @@ TEST(Commands, StartWhatTheirCaptionsSay) {
         Given setup;
         std::wstring outcome;
     } cases[] = {
-        {L"&File manager", {nullptr, L"", L"C:\\Orvane\\TS_Files.exe"}, L"Open C:\\Orvane\\TS_Files.exe [] in C:\\Orvane -1"},
-        {L"File bo&x", {nullptr, L"", L"C:\\TellmarkSet\\TS_FileBox.exe"},
-         L"Open C:\\TellmarkSet\\TS_FileBox.exe [] in C:\\TellmarkSet -1"},
-        {L"Sho&w clock", {}, L"Open C:\\Orvane\\TS_Clock.exe [] in C:\\Orvane -1"},
-        {L"&Word", {&S::WordPath, L"C:\\My Office\\WINWORD.EXE", L"C:\\My Office\\WINWORD.EXE"},
-         L"start C:\\My Office\\WINWORD.EXE"},
+        {L"&File manager", {nullptr, L"", L"C:\\P\\TS_Files.exe"}, L"Open C:\\P\\TS_Files.exe [] in C:\\P -1"},
+        {L"File bo&x", {nullptr, L"", L"C:\\TellmarkSet\\TS_FileBox.exe"}, L"Open C:\\TellmarkSet\\TS_FileBox.exe [] in C:\\TellmarkSet -1"},
+        {L"Sho&w clock", {}, L"Open C:\\P\\TS_Clock.exe [] in C:\\P -1"},
+        {L"&Word", {&S::WordPath, L"C:\\M O\\WINWORD.EXE", L"C:\\M O\\WINWORD.EXE"}, L"start C:\\M O\\WINWORD.EXE"},
         {L"E&xcel", {}, missing + L"C:\\Program Files\\\\Microsoft Office\\Office\\EXCEL.EXE\r\n\r\n"},
-        {L"Load &Deadlines file", {&S::DeadlinesFile, L"G:\\Plan.VRT", L"G:\\Plan.VRT"},
-         L"Open C:\\Orvane\\TS_Outliner.exe [G:\\Plan.VRT] in C:\\Orvane -1"},
-        {L"Load &Deadlines file", {&S::DeadlinesFile, L"C:\\My Files\\plan.vrt.txt", L"C:\\My Files\\plan.vrt.txt"},
-         L"Open C:\\Orvane\\TS_ScratchPad.exe [C:\\My Files\\plan.vrt.txt] in C:\\Orvane -1"},
-        {L"Load Addr&esses file", {&S::AddressesFile, L"G:\\Addresses.vrt", L"D:\\Drive_G\\Addresses.vrt"},
-         L"Open C:\\Orvane\\TS_Grid.exe [D:\\Drive_G\\Addresses.vrt] in C:\\Orvane -1"},
+        {L"Load &Deadlines file", {&S::DeadlinesFile, L"G:\\a.VRT", L"G:\\a.VRT"}, L"Open C:\\P\\TS_Outliner.exe [G:\\a.VRT] in C:\\P -1"},
+        {L"Load &Deadlines file", {&S::DeadlinesFile, L"C:\\M F\\a.vrt.txt", L"C:\\M F\\a.vrt.txt"},
+         L"Open C:\\P\\TS_ScratchPad.exe [C:\\M F\\a.vrt.txt] in C:\\P -1"},
+        {L"Load Addr&esses file", {&S::AddressesFile, L"G:\\a.vrt", L"D:\\Drive_G\\a.vrt"},
+         L"Open C:\\P\\TS_Grid.exe [D:\\Drive_G\\a.vrt] in C:\\P -1"},
         {L"Load Addr&esses file", {}, missing + L"( Filename empty! )\r\n\r\n"},
-        {L"&Custom browser", {&S::CustomBrowser, L"C:\\Web\\b.exe", L"C:\\Web\\b.exe"}, L"Open C:\\Web\\b.exe [] in C:\\Web -1"},
+        {L"&Custom browser", {&S::CustomBrowser, L"C:\\W\\b.exe", L"C:\\W\\b.exe"}, L"Open C:\\W\\b.exe [] in C:\\W -1"},
+        {L"&Custom browser", {&S::CustomBrowser, L"\"C:\\W\\b.exe\"", L"C:\\W\\b.exe"}, missing + L"\"C:\\W\\b.exe\"\r\n\r\n"},
+        {L"&Custom browser", {}, missing + L"( Filename empty! )\r\n\r\n"},
         {L"&Windows Explorer", {}, L"verb explore C:\\Work in C:\\Work owner 7 show 1"},
-        {L"Des&ktop", {}, L"desktop"},
         {L"Wa&llpaper", {}, L"wallpaper"},
         {L"&Wallpaper", {}, L"nothing"},
     };
