@@ -47,14 +47,13 @@ protected:
 TEST_F(Commands, TheMenuShowsTheTableWithItsShortcuts) {
     HWND bar = start({});
     ASSERT_NE(bar, nullptr);
+    // The desktop toggle may do nothing here, but the bar goes on answering.
+    ASSERT_TRUE(PickMenuItem(bar, L"&Goto desktop") && PickMenuItem(bar, L"Des&ktop"));
     std::vector<std::wstring> expected, shown;
-    const auto rows = MainMenuRows();
-    for (const MenuRow& row : rows) {
+    for (const MenuRow& row : MainMenuRows()) {  // items in menus draw their icons themselves
         const std::wstring shortcut = ShortcutText(row.shortcut);
-        const bool drawn = !row.parentKey.empty();  // items in menus draw their icons themselves
-        expected.push_back(std::wstring(row.parentKey.empty() ? L"bar " : L"item ") + (drawn ? L"drawn " : L"") +
-                           (row.isSeparator() ? L"-" : std::wstring(row.caption)) +
-                           (shortcut.empty() ? L"" : L"\t" + shortcut));
+        expected.push_back(std::wstring(row.parentKey.empty() ? L"bar " : L"item drawn ") +
+                           (row.isSeparator() ? L"-" : std::wstring(row.caption)) + (shortcut.empty() ? L"" : L"\t" + shortcut));
     }
     for (const MenuItem& item : ReadMenu(bar))
         shown.push_back(std::wstring(item.depth ? L"item " : L"bar ") + (item.type & MFT_OWNERDRAW ? L"drawn " : L"") +

@@ -4,6 +4,7 @@
 #include <windows.h>
 #include <shlobj.h>
 
+#include <memory>
 #include <utility>
 
 #include "system.h"
@@ -70,6 +71,25 @@ using UniqueIcon = Unique<NullTraits<HICON, DestroyIcon>>;
 using UniqueMenu = Unique<NullTraits<HMENU, DestroyMenu>>;
 using UniqueAccelerators = Unique<NullTraits<HACCEL, DestroyAcceleratorTable>>;
 using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, CoTaskMemFree>>;
+
+// A COM interface, released once.
+struct ComRelease {
+    void operator()(IUnknown* object) const { object->Release(); }
+};
+template <typename Interface>
+using ComPointer = std::unique_ptr<Interface, ComRelease>;
+
+// The thread's COM apartment, entered on first use and left at exit, so a
+// start that never needs COM does not pay for it.
+inline void EnterComApartment() {
+    struct Apartment {
+        HRESULT entered = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        ~Apartment() {
+            if (SUCCEEDED(entered)) CoUninitialize();
+        }
+    };
+    static const Apartment apartment;
+}
 
 // The logic's plain window numbers and the system's window handles.
 inline HWND ToHwnd(WindowRef ref) { return reinterpret_cast<HWND>(ref); }

@@ -33,7 +33,7 @@ private:
         case IDCANCEL: text_.clear(); break;
         case IDC_DESKTOP_FOLDER: {
             const std::wstring desktop = app_.sys.specialFolder(kDesktopFolder);
-            app_.sys.shellVerb(ToRef(hwnd()), L"open", desktop.c_str(), desktop.c_str(), kShowNormal);
+            app_.sys.shellVerb(ToRef(hwnd()), L"open", desktop, desktop, kShowNormal);
             return;
         }
         case IDC_EXPLORER: ExploreFolder(app_, ToRef(hwnd())); return;

@@ -203,14 +203,12 @@ void MainWindow::showYourProgram() { ShowYourProgram(app_, hwnd()); }
 
 // The shell's own desktop toggle; a system without it simply does nothing.
 void MainWindow::toggleDesktop() {
-    static const HRESULT apartment = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    (void)apartment;
-    IShellDispatch4* shell = nullptr;
+    EnterComApartment();
+    IShellDispatch4* created = nullptr;
     if (FAILED(CoCreateInstance(CLSID_Shell, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IShellDispatch4,
-                                reinterpret_cast<void**>(&shell))))
+                                reinterpret_cast<void**>(&created))))
         return;
-    shell->ToggleDesktop();
-    shell->Release();
+    ComPointer<IShellDispatch4>(created)->ToggleDesktop();
 }
 
 // Exit closes the bar as its close box does, so the settings are written.

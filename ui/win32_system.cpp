@@ -293,6 +293,7 @@ std::optional<std::wstring> Win32System::chooseFile(const FileRequest& request) 
     static const UniqueModule library(LoadLibraryW(L"comdlg32.dll"));
     static const auto getOpenFileName = reinterpret_cast<GetOpenFileNameFn>(
         reinterpret_cast<void*>(GetProcAddress(library.get(), "GetOpenFileNameW")));
+    EnterComApartment();  // the dialog browses the shell's folders
     if (!getOpenFileName || !getOpenFileName(&dialog)) return std::nullopt;
     return std::wstring(name.c_str());
 }

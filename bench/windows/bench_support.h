@@ -5,8 +5,13 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <cwchar>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "win_support.h"
 
 namespace orvane::bench {
 
@@ -47,6 +52,23 @@ inline std::string NeutralSettings() {
     std::string text;
     for (int line = 0; line < 39; ++line) text += "0\r\n";
     return text;
+}
+
+// "[--runs N] [path\\to\\orvane.exe]", orvane.exe from ORVANE_EXE when not
+// given. Nothing, after the usage line, when the arguments do not do.
+struct Arguments {
+    int runs;
+    std::wstring orvane;
+};
+inline std::optional<Arguments> ParseArguments(int argc, wchar_t** argv, const char* name, int runs, int fewest) {
+    Arguments given{runs, testsupport::EnvironmentValue(L"ORVANE_EXE")};
+    for (int i = 1; i < argc; ++i) {
+        if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) given.runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
+        else given.orvane = argv[i];
+    }
+    if (!given.orvane.empty() && given.runs >= fewest) return given;
+    std::printf("usage: %s [--runs N] [orvane.exe]   (N >= %d, default %d; or set ORVANE_EXE)\n", name, fewest, runs);
+    return std::nullopt;
 }
 
 inline double Median(std::vector<double> values) {

@@ -54,16 +54,10 @@ HWND WaitForWindow(DWORD processId, const wchar_t* windowClass) {
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    int runs = 15;
-    std::wstring orvanePath = ts::EnvironmentValue(L"ORVANE_EXE");
-    for (int i = 1; i < argc; ++i) {
-        if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
-        else orvanePath = argv[i];
-    }
-    if (orvanePath.empty() || runs < 3) {
-        std::printf("usage: launch_bench [--runs N] [orvane.exe]   (N >= 3, default 15; or set ORVANE_EXE)\n");
-        return 2;
-    }
+    const auto arguments = ParseArguments(argc, argv, "launch_bench", 15, 3);
+    if (!arguments) return 2;
+    const int runs = arguments->runs;
+    const std::wstring& orvanePath = arguments->orvane;
 
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"launch bench");
     const std::wstring tool = std::wstring(SuiteToolOf(Tool::FileManager).program) + L".exe";

@@ -103,17 +103,10 @@ const char* Verdict(bool met) { return met ? "met" : "NOT met"; }
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    int runs = 7;
-    std::wstring orvanePath = ts::EnvironmentValue(L"ORVANE_EXE");
-    for (int i = 1; i < argc; ++i) {
-        if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
-        else orvanePath = argv[i];
-    }
-    if (orvanePath.empty() || runs < kMinimumRuns) {
-        std::printf("usage: startup_bench [--runs N] [orvane.exe]   (N >= %d, default 7; or set ORVANE_EXE)\n",
-                    kMinimumRuns);
-        return 2;
-    }
+    const auto arguments = ParseArguments(argc, argv, "startup_bench", 7, kMinimumRuns);
+    if (!arguments) return 2;
+    const int runs = arguments->runs;
+    const std::wstring& orvanePath = arguments->orvane;
 
     std::wstring root = ts::WindowsPath(ts::EnvironmentValue(L"ORVANE_BENCH_ROOT"));
     if (root.empty()) root = ts::ExeFolder();
