@@ -139,6 +139,13 @@ bool HasItems(std::span<const MenuRow> rows, std::wstring_view key) {
     return false;
 }
 
+wchar_t AccessLetter(std::wstring_view caption) {
+    for (std::size_t at = caption.find(L'&'); at != std::wstring_view::npos && at + 1 < caption.size();
+         at = caption.find(L'&', at + 2))
+        if (caption[at + 1] != L'&') return caption[at + 1];
+    return 0;
+}
+
 std::wstring ShortcutText(Shortcut shortcut) {
     if (shortcut.key == 0) return {};
     std::wstring text;

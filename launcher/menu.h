@@ -35,6 +35,10 @@ std::span<const MenuRow> MainMenuRows();
 // Whether a row of the bar itself opens a menu (rather than acting as a command).
 bool HasItems(std::span<const MenuRow> rows, std::wstring_view key);
 
+// The access letter of a caption: the character after its "&" ("&&" is a
+// plain "&"); 0 when it has none.
+wchar_t AccessLetter(std::wstring_view caption);
+
 // The shortcut as Windows menus write it: "Ctrl+Shift+M", "Alt+F10", "F4"; empty for none.
 std::wstring ShortcutText(Shortcut shortcut);
 

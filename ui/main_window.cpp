@@ -100,6 +100,9 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         }
         break;
+    case WM_MENUCHAR:
+        if (HIWORD(wParam) == MF_POPUP) return menuBar_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam));
+        break;
     case WM_MEASUREITEM:
         if (menuBar_.measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam))) return TRUE;
         break;

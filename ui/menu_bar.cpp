@@ -106,6 +106,17 @@ std::wstring MenuBar::caption(HWND window, UINT command) const {
     return caption.substr(0, caption.find(L'\t'));
 }
 
+LRESULT MenuBar::menuChar(wchar_t letter, HMENU menu) const {
+    const auto upper = [](wchar_t c) { return reinterpret_cast<ULONG_PTR>(CharUpperW(reinterpret_cast<wchar_t*>(c))); };
+    for (int position = 0, count = GetMenuItemCount(menu); position < count; ++position) {
+        wchar_t text[256] = {};
+        GetMenuStringW(menu, static_cast<UINT>(position), text, 256, MF_BYPOSITION);
+        if (const wchar_t access = AccessLetter(text); access && upper(access) == upper(letter))
+            return MAKELRESULT(position, MNC_EXECUTE);
+    }
+    return MAKELRESULT(0, MNC_IGNORE);
+}
+
 bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
     const auto rows = MainMenuRows();
     if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;

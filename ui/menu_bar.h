@@ -28,6 +28,10 @@ public:
     // The clicked item's caption, without the shortcut text after its tab.
     std::wstring caption(HWND window, UINT command) const;
 
+    // The item of an open menu whose access letter was typed: owner-drawn
+    // items are not matched by the system itself. A WM_MENUCHAR result.
+    LRESULT menuChar(wchar_t letter, HMENU menu) const;
+
     bool measure(MEASUREITEMSTRUCT& item) const;
     bool draw(const DRAWITEMSTRUCT& item) const;
 

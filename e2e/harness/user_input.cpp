@@ -44,7 +44,8 @@ bool PickMenuItem(HWND window, const std::wstring& caption) {
 }
 
 void PressKeys(HWND window, std::initializer_list<WORD> keys) {
-    SetForegroundWindow(window);
+    // Asked only when needed: bringing the window forward closes its open menu.
+    if (GetForegroundWindow() != window) SetForegroundWindow(window);
     WaitFor([&] { return GetForegroundWindow() == window; }, 2s);
     std::vector<INPUT> inputs;
     auto add = [&](WORD key, DWORD flags) {

@@ -59,6 +59,8 @@ TEST(MainMenu, RowsFollowTheDesignInOrder) {
     for (std::wstring row; std::getline(design, row, L';');) expected.push_back(row);
     for (const MenuRow& row : MainMenuRows()) actual.push_back(Describe(row));
     EXPECT_EQ(actual, expected);
+    for (const auto& [caption, letter] : {std::pair{L"Top/&bottom", L'b'}, {L"A && &B", L'B'}, {L"||", L'\0'}, {L"a&", L'\0'}})
+        EXPECT_EQ(AccessLetter(caption), letter) << caption;
     // Tool rows whose captions the design gives itself, and the desktop tool's two access letters.
     EXPECT_EQ(SuiteToolOf(Tool::Clock).caption, L"Sho&w clock");
     EXPECT_EQ(SuiteToolOf(Tool::TellmarkSet).caption, L"&Tellmark Set");
