@@ -107,7 +107,11 @@ TEST_F(Commands, OfficeProgramsAndWebmail) {
     const auto browser = records(1, folder.path() + L"\\probe.log");
     ASSERT_EQ(browser.size(), 1u);
     EXPECT_EQ(browser[0].commandLine, "\"" + path(L"browser.exe") + "\" https://mail.example.org/inbox");
+    // The bar closed while the box is open: nothing starts, the address stays.
+    ASSERT_TRUE(PickMenuItem(bar, L"Web interface U&RL"));
+    SetControlText(WaitForDialogTitled(orvane->id(), L"Orvane"), IDC_BOX_TEXT, L"https://unsent.example.org");
     EXPECT_EQ(closeAndReadSettings().at(3), "https://mail.example.org/inbox");
+    EXPECT_FALSE(WaitFor([&] { return ReadProbeLog(folder.path() + L"\\probe.log").size() > 1; }, 2s));
 }
 
 TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {

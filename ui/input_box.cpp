@@ -17,20 +17,21 @@ constexpr int kDesktopFolder = 0x10;
 class InputBox : public ModalDialog {
 public:
     InputBox(App& app, const std::wstring& prompt, const std::wstring& preset)
-        : app_(app), prompt_(prompt), text_(preset) {}
+        : app_(app), prompt_(prompt), preset_(preset) {}
+    // Empty unless OK ended the box: a box closed any other way, even with its
+    // owner, answers nothing.
     const std::wstring& text() const { return text_; }
 
 private:
     void onInit() override {
         setItemText(IDC_PROMPT, prompt_);
-        setItemText(IDC_BOX_TEXT, text_);
+        setItemText(IDC_BOX_TEXT, preset_);
         SendDlgItemMessageW(hwnd(), IDC_BOX_TEXT, EM_SETSEL, 0, -1);
         SetFocus(GetDlgItem(hwnd(), IDC_BOX_TEXT));
     }
     void onCommand(int id, int code) override {
         switch (id) {
         case IDOK: text_ = itemText(IDC_BOX_TEXT); break;
-        case IDCANCEL: text_.clear(); break;
         case IDC_DESKTOP_FOLDER: {
             const std::wstring desktop = app_.sys.specialFolder(kDesktopFolder);
             app_.sys.shellVerb(ToRef(hwnd()), L"open", desktop, desktop, kShowNormal);
@@ -47,7 +48,7 @@ private:
     }
 
     App& app_;
-    std::wstring prompt_, text_;
+    std::wstring prompt_, preset_, text_;
 };
 
 }  // namespace
