@@ -83,7 +83,7 @@ TEST_F(Helpers, SystemFoldersComeFromTheRegistryAndTheShellWithABackslash) {
     FindSystemFolders(app);
     EXPECT_EQ(app.ProgramFilesFolder, L"\\") << "no registry value and no C:";
     EXPECT_EQ(app.DocumentsFolder, L"\\");
-    sys.addFolder(L"C:\\");
+    sys.folders.insert(L"C:\\");
     FindSystemFolders(app);
     EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");
 

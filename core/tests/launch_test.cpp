@@ -129,18 +129,17 @@ TEST_F(Launching, RunningSuiteProgramIsBroughtForwardByItsExactTitle) {
     EXPECT_EQ(sys.messages[0].text, L"Program running already");
     EXPECT_EQ(sys.messages[0].caption, L"Orvane");
     EXPECT_EQ(sys.messages[0].icon, MessageIcon::None);
-    EXPECT_EQ(sys.foregrounded, std::vector<WindowRef>{7});
+    EXPECT_EQ(sys.journal.back(), L"foreground 7");
     EXPECT_EQ(app.LastLaunchResult, 1);
 }
 
 TEST_F(Launching, RefusedStartOrAnOversizedTaskKeepsThePreviousResult) {
     sys.addFile(L"C:\\Suite\\Tool.exe");
     app.LastLaunchResult = 9;
-    sys.startsSucceed = false;
+    sys.nextTask = std::nullopt;
     launch(L"C:\\Suite\\Tool.exe");
     EXPECT_EQ(app.LastLaunchResult, 9);
-    sys.startsSucceed = true;
-    sys.nextTaskId = 70000;  // does not fit the 16-bit result
+    sys.nextTask = 70000;  // does not fit the 16-bit result
     launch(L"C:\\Suite\\Tool.exe");
     EXPECT_EQ(app.LastLaunchResult, 9);
     EXPECT_EQ(sys.started.size(), 2u);
