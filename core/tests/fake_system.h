@@ -47,9 +47,8 @@ public:
 
     bool fileExists(S path) override { return files.count(path) > 0; }
     bool pathExists(S path) override { return fileExists(path) || folders.count(path) > 0; }
-    std::optional<std::string> readFile(S path, std::size_t maxBytes) override {
-        if (!fileExists(path) || lockedFiles.count(path)) return std::nullopt;
-        return files[path].substr(0, maxBytes);
+    std::optional<std::string> readFile(S path, std::size_t max) override {
+        return fileExists(path) && !lockedFiles.count(path) ? std::optional(files[path].substr(0, max)) : std::nullopt;
     }
     FileError writeFile(S path, const std::string& bytes) override {
         journal.push_back(L"write " + path);
@@ -58,22 +57,17 @@ public:
         return 0;
     }
     bool deleteFile(S path) override {
-        journal.push_back(L"delete " + path);
-        return !lockedFiles.count(path) && files.erase(path) > 0;
+        return journal.push_back(L"delete " + path), !lockedFiles.count(path) && files.erase(path);
     }
     std::wstring currentFolder() override { return current; }
     std::wstring lastErrorDescription() override { return errorDescription; }
     std::wstring fromAnsi(const std::string& bytes) override { return DecodeWindows1252(bytes); }
     std::string toAnsi(S text) override { return EncodeWindows1252(text); }
-    bool shellExecute(const ShellExecuteRequest& request) override {
-        journal.push_back(L"shellExecute " + request.verb + L" " + request.file);
-        shellRequests.push_back(request);
-        return shellAccepts;
+    bool shellExecute(const ShellExecuteRequest& r) override {
+        return journal.push_back(L"shellExecute " + r.verb + L" " + r.file), shellRequests.push_back(r), shellAccepts;
     }
     std::optional<long long> startCommandLine(S commandLine, int showCode) override {
-        journal.push_back(L"start " + commandLine);
-        started.push_back({commandLine, showCode});
-        return nextTask;
+        return journal.push_back(L"start " + commandLine), started.push_back({commandLine, showCode}), nextTask;
     }
     long long shellVerb(WindowRef owner, S verb, S file, S directory, int showCode) override {
         log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show",
@@ -86,15 +80,12 @@ public:
     void restoreIfMinimised(WindowRef window) override { log(L"restore", window); }
     std::optional<std::wstring> registryString(RegistryRoot root, S subKey, S valueName) override {
         const auto it = registry.find(subKey + L"\\" + valueName);
-        if (root != RegistryRoot::LocalMachine || it == registry.end()) return std::nullopt;
-        return it->second;
+        return root == RegistryRoot::LocalMachine && it != registry.end() ? std::optional(it->second) : std::nullopt;
     }
     std::wstring specialFolder(int csidl) override { return specialFolders[csidl]; }
     OsVersion osVersion() override { return version; }
-    MessageAnswer showMessage(S text, S caption, MessageIcon icon, MessageButtons buttons) override {
-        journal.push_back(L"message " + text);
-        messages.push_back({text, caption, icon, buttons});
-        return MessageAnswer::Ok;
+    MessageAnswer showMessage(S text, S caption, MessageIcon i, MessageButtons b) override {
+        return journal.push_back(L"message " + text), messages.push_back({text, caption, i, b}), MessageAnswer::Ok;
     }
     std::optional<std::wstring> chooseFile(const FileRequest& request) override {
         fileRequests.push_back(request);
