@@ -66,7 +66,7 @@ protected:
     MainWindowState state;
 };
 
-TEST_F(StartUp, FirstStartReportsTheMissingFileAndOpensTheSingleStripBarThoughACopyWithoutAWindowIsReported) {
+TEST_F(StartUp, FirstStartOpensTheSingleStripBarThoughACopyWithoutAWindowIsReportedAndUnloadWritesTheSettings) {
     host.earlierInstance = true;
     EXPECT_EQ(load(), LoadOutcome::Running);
     ASSERT_EQ(sys.messages.size(), 1u);
@@ -81,6 +81,15 @@ TEST_F(StartUp, FirstStartReportsTheMissingFileAndOpensTheSingleStripBarThoughAC
                                  L"top 0", L"left 0", L"width 0", L"height 0", L"iconStrip",
                                  L"skin C:\\Orvane\\Skin_Alba.bmp", L"menuBar", L"height 1020", L"width 16060"}));
     EXPECT_EQ(host.rect.width, 16050) << "a whole number of pixels";
+
+    host.rect = {150, 300, 16065, 1020};  // the user moved it; unload records it and writes the settings once
+    sys.journal.clear();
+    UnloadMainWindow(app, host);
+    EXPECT_EQ(sys.journal, Lines{L"write C:\\Orvane\\Orvane.ini"});
+    const std::string& file = sys.files[L"C:\\Orvane\\Orvane.ini"];
+    EXPECT_EQ(file.substr(0, 10), "300\r\n150\r\n");
+    EXPECT_NE(file.find("\r\n16065\r\n1020\r\n15790320\r\n"), std::string::npos);
+    EXPECT_NE(file.find("\r\nC:\\Orvane\\Skin_Alba.bmp\r\n"), std::string::npos);
 }
 
 TEST_F(StartUp, TheWindowIsPlacedFromTheSettingsAtTopOnlyWhereItsTopMeetsTheWorkAreaAndNoWiderThanThat) {
@@ -123,18 +132,6 @@ TEST_F(StartUp, SecondCopyBringsTheFirstForwardAndDoesNothingElse) {
         rounds.insert(rounds.end(), {L"events", L"restore " + w, L"foreground " + w, L"events"});
     EXPECT_EQ(sys.journal, rounds) << "and no message";
     EXPECT_EQ(app.settings.MainTop, 0) << "settings are not even read";
-}
-
-TEST_F(StartUp, UnloadRecordsTheWindowAndWritesTheSettingsOnce) {
-    load();
-    host.rect = {150, 300, 16065, 1020};
-    sys.journal.clear();
-    UnloadMainWindow(app, host);
-    EXPECT_EQ(sys.journal, Lines{L"write C:\\Orvane\\Orvane.ini"});
-    const std::string& file = sys.files[L"C:\\Orvane\\Orvane.ini"];
-    EXPECT_EQ(file.substr(0, 10), "300\r\n150\r\n");
-    EXPECT_NE(file.find("\r\n16065\r\n1020\r\n15790320\r\n"), std::string::npos);
-    EXPECT_NE(file.find("\r\nC:\\Orvane\\Skin_Alba.bmp\r\n"), std::string::npos);
 }
 
 }  // namespace

@@ -33,14 +33,8 @@ std::string File(bool distinct, const std::map<int, std::string>& changed = {}) 
 class SettingsFile : public ::testing::Test {
 protected:
     SettingsFile() { app.SettingsFilePath = kIni; }
-    void load(const std::string& bytes) {
-        sys.addFile(kIni, bytes);
-        LoadSettings(app);
-    }
-    const std::string& save() {
-        SaveSettings(app);
-        return sys.files[kIni];
-    }
+    void load(const std::string& bytes) { sys.addFile(kIni, bytes), LoadSettings(app); }
+    const std::string& save() { return SaveSettings(app), sys.files[kIni]; }
     testing::FakeSystem sys;
     App app{sys};
 };
@@ -56,7 +50,10 @@ TEST_F(SettingsFile, MissingFileIsReportedAndLeavesInitialValues) {
     EXPECT_EQ(std::tie(m.caption, m.icon, m.buttons), std::tuple(L"Orvane", MessageIcon::Critical, MessageButtons::Ok));
     EXPECT_EQ(app.settings, Settings{});
     app.SettingsFilePath = kIni;
+    sys.addFile(kIni);
+    sys.journal.clear();
     EXPECT_EQ(save(), File(false)) << "initial values are 39 lines of zero and empty";
+    EXPECT_EQ(sys.journal, (Lines{L"delete " + kIni, L"write " + kIni})) << "the old file replaced by a fresh one";
 }
 
 TEST_F(SettingsFile, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
@@ -99,12 +96,6 @@ TEST_F(SettingsFile, LineValuesAsReadAndWrittenBack) {
         load(File(true, {{line, read}}));
         EXPECT_EQ(save(), File(true, {{line, written}})) << read;
     }
-}
-
-TEST_F(SettingsFile, SaveReplacesTheOldFileWithAFreshOne) {
-    sys.addFile(kIni);
-    EXPECT_EQ(save(), File(false));
-    EXPECT_EQ(sys.journal, (Lines{L"delete " + kIni, L"write " + kIni}));
 }
 
 TEST_F(SettingsFile, LockedFileIsReadAsNothingAndOnlyTheOldRuntimesErrorMinusOneIsReported) {
@@ -160,15 +151,14 @@ TEST(Conversions, NumericPrefixIsTheLongestNumberAfterWhiteSpaceOrZeroOrNothingO
 }
 
 TEST(Conversions, RoundingTakesHalvesToEvenAndChecksTheRangeAfterRounding) {
-    const std::pair<double, std::optional<std::int16_t>> to16[] = {
-        {12.5, 12}, {13.5, 14}, {-2.5, -2}, {2.6, 3}, {32767.0, 32767}, {32767.4, 32767}, {32767.5, std::nullopt},
-        {-32768.5, -32768}, {-32769.0, std::nullopt},
+    const std::tuple<double, std::optional<std::int16_t>, std::optional<std::int32_t>> cases[] = {
+        {12.5, 12, 12}, {13.5, 14, 14}, {-2.5, -2, -2}, {2.6, 3, 3}, {0.5, 0, 0}, {32767.4, 32767, 32767},
+        {32767.5, std::nullopt, 32768}, {-32768.5, -32768, -32768}, {-32769.0, std::nullopt, -32769},
+        {2147483647.0, std::nullopt, 2147483647}, {2147483648.0, std::nullopt, std::nullopt},
+        {-2147483648.0, std::nullopt, INT32_MIN},
     };
-    for (const auto& [value, expected] : to16) EXPECT_EQ(RoundToInt16(value), expected) << value;
-    const std::pair<double, std::optional<std::int32_t>> to32[] = {
-        {0.5, 0}, {1.5, 2}, {2147483647.0, 2147483647}, {2147483648.0, std::nullopt}, {-2147483648.0, INT32_MIN},
-    };
-    for (const auto& [value, expected] : to32) EXPECT_EQ(RoundToInt32(value), expected) << value;
+    for (const auto& [value, to16, to32] : cases)
+        EXPECT_EQ(std::pair(RoundToInt16(value), RoundToInt32(value)), std::pair(to16, to32)) << value;
 }
 
 TEST(Conversions, TrimmingRemovesBlanksButNotTabsAndSplittingTakesEveryLineEndUpToTheLimit) {
@@ -176,8 +166,7 @@ TEST(Conversions, TrimmingRemovesBlanksButNotTabsAndSplittingTakesEveryLineEndUp
                   TrimLeadingBlanks(L"  x ") + L"|" + TrimTrailingBlanks(L"  x "),
               L"a b|\ta\t||x |  x");
     using Views = std::vector<std::wstring_view>;
-    EXPECT_EQ(SplitLines(L"a\r\nb\rc\nd", 10), (Views{L"a", L"b", L"c", L"d"}));
-    EXPECT_EQ(SplitLines(L"a\r\n\r\nb\r\n", 10), (Views{L"a", L"", L"b"}));
+    EXPECT_EQ(SplitLines(L"a\r\nb\rc\nd\r\n\r\ne\r\n", 10), (Views{L"a", L"b", L"c", L"d", L"", L"e"}));
     EXPECT_EQ(SplitLines(L"a\nb\nc", 2), (Views{L"a", L"b"}));
     EXPECT_TRUE(SplitLines(L"", 5).empty());
 }
