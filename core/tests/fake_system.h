@@ -1,5 +1,5 @@
-// A recording stand-in for the system: a file system in memory, scripted
-// answers, and a journal of every call that changes the world.
+// A recording stand-in for the system: files in memory, scripted answers, and
+// a journal of every call that changes the world.
 #pragma once
 
 #include <map>
@@ -11,83 +11,92 @@
 
 namespace orvane::testing {
 
-struct ShownMessage {
-    std::wstring text;
-    std::wstring caption;
-    MessageIcon icon;
-    MessageButtons buttons;
-};
+struct ShownMessage { std::wstring text, caption; MessageIcon icon; MessageButtons buttons; };
+struct StartedCommand { std::wstring commandLine; int showCode; };
 
-struct StartedCommand {
-    std::wstring commandLine;
-    int showCode;
-    std::wstring currentFolder;
-};
+// The Windows-1252 code page, as the system converts it.
+std::wstring DecodeWindows1252(const std::string& bytes);
+std::string EncodeWindows1252(const std::wstring& text);
 
 class FakeSystem : public System {
+    using S = const std::wstring&;
+    void log(const std::wstring& entry, long long n) { journal.push_back(entry + L" " + std::to_wstring(n)); }
+
 public:
-    // Test set-up.
-    void addFile(const std::wstring& path, const std::string& bytes = "x") { files[path] = bytes; }
-    void addFolder(const std::wstring& path) { folders.insert(path); }
+    void addFile(S path, const std::string& bytes = "x") { files[path] = bytes; }
 
     std::map<std::wstring, std::string> files;
-    std::set<std::wstring> folders;
-    std::set<std::wstring> lockedFiles;   // exist, but cannot be opened
-    FileError createError = 0;            // returned by every writeFile when set
-    std::wstring errorDescription;
-    std::wstring current = L"C:\\Work";
-    bool startsSucceed = true;
-    long long nextTaskId = 100;
+    std::set<std::wstring> folders, lockedFiles;  // locked files exist, but cannot be opened
+    FileError createError = 0;                    // returned by every writeFile when set
+    std::wstring errorDescription, current = L"C:\\Work";
+    std::optional<long long> nextTask = 100;  // what every start returns
     bool shellAccepts = true;
-    long long shellVerbResult = 42;
     std::vector<TopLevelWindow> windows;
     std::map<WindowRef, WindowRef> zOrderAbove;
     std::map<std::wstring, std::wstring> registry;  // "subkey\\value" under HKLM
     std::map<int, std::wstring> specialFolders;
     OsVersion version{6, 1};
-    std::vector<MessageAnswer> answers;  // consumed in order; Ok when empty
     std::vector<std::optional<std::wstring>> fileAnswers;  // consumed in order; cancelled when empty
 
-    // What happened, in order.
+    // What happened, in order. Messages are answered Ok; shell verbs return 42.
     std::vector<std::wstring> journal;
     std::vector<ShownMessage> messages;
     std::vector<StartedCommand> started;
     std::vector<ShellExecuteRequest> shellRequests;
-    std::vector<WindowRef> foregrounded;
     std::vector<FileRequest> fileRequests;
 
-    // System.
-    bool fileExists(const std::wstring& path) override;
-    bool pathExists(const std::wstring& path) override;
-    std::optional<std::string> readFile(const std::wstring& path, std::size_t maxBytes) override;
-    FileError writeFile(const std::wstring& path, const std::string& bytes) override;
-    bool deleteFile(const std::wstring& path) override;
+    bool fileExists(S path) override { return files.count(path) > 0; }
+    bool pathExists(S path) override { return fileExists(path) || folders.count(path) > 0; }
+    std::optional<std::string> readFile(S path, std::size_t max) override {
+        return fileExists(path) && !lockedFiles.count(path) ? std::optional(files[path].substr(0, max)) : std::nullopt;
+    }
+    FileError writeFile(S path, const std::string& bytes) override {
+        journal.push_back(L"write " + path);
+        if (createError != 0 || lockedFiles.count(path)) return createError ? createError : 70;
+        files[path] = bytes;
+        return 0;
+    }
+    bool deleteFile(S path) override {
+        return journal.push_back(L"delete " + path), !lockedFiles.count(path) && files.erase(path);
+    }
     std::wstring currentFolder() override { return current; }
     std::wstring lastErrorDescription() override { return errorDescription; }
-    std::wstring fromAnsi(const std::string& bytes) override;
-    std::string toAnsi(const std::wstring& text) override;
-    bool shellExecute(const ShellExecuteRequest& request) override;
-    std::optional<long long> startCommandLine(const std::wstring& commandLine, int showCode) override;
-    long long shellVerb(WindowRef owner, const std::wstring& verb, const std::wstring& file,
-                        const std::wstring& directory, int showCode) override;
+    std::wstring fromAnsi(const std::string& bytes) override { return DecodeWindows1252(bytes); }
+    std::string toAnsi(S text) override { return EncodeWindows1252(text); }
+    bool shellExecute(const ShellExecuteRequest& r) override {
+        return journal.push_back(L"shellExecute " + r.verb + L" " + r.file), shellRequests.push_back(r), shellAccepts;
+    }
+    std::optional<long long> startCommandLine(S commandLine, int showCode) override {
+        return journal.push_back(L"start " + commandLine), started.push_back({commandLine, showCode}), nextTask;
+    }
+    long long shellVerb(WindowRef owner, S verb, S file, S directory, int showCode) override {
+        log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show",
+            showCode);
+        return 42;
+    }
     std::vector<TopLevelWindow> topLevelWindows() override { return windows; }
-    bool bringToForeground(WindowRef window) override;
-    WindowRef windowAbove(WindowRef window) override;
-    void restoreIfMinimised(WindowRef window) override;
-    std::optional<std::wstring> registryString(RegistryRoot root, const std::wstring& subKey,
-                                               const std::wstring& valueName) override;
+    bool bringToForeground(WindowRef window) override { log(L"foreground", window); return window != 0; }
+    WindowRef windowAbove(WindowRef window) override { return zOrderAbove.count(window) ? zOrderAbove[window] : 0; }
+    void restoreIfMinimised(WindowRef window) override { log(L"restore", window); }
+    std::optional<std::wstring> registryString(RegistryRoot root, S subKey, S valueName) override {
+        const auto it = registry.find(subKey + L"\\" + valueName);
+        return root == RegistryRoot::LocalMachine && it != registry.end() ? std::optional(it->second) : std::nullopt;
+    }
     std::wstring specialFolder(int csidl) override { return specialFolders[csidl]; }
     OsVersion osVersion() override { return version; }
-    MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
-                              MessageButtons buttons) override;
-    std::optional<std::wstring> chooseFile(const FileRequest& request) override;
+    MessageAnswer showMessage(S text, S caption, MessageIcon i, MessageButtons b) override {
+        return journal.push_back(L"message " + text), messages.push_back({text, caption, i, b}), MessageAnswer::Ok;
+    }
+    std::optional<std::wstring> chooseFile(const FileRequest& request) override {
+        fileRequests.push_back(request);
+        if (fileAnswers.empty()) return std::nullopt;
+        const auto answer = fileAnswers.front();
+        fileAnswers.erase(fileAnswers.begin());
+        return answer;
+    }
     void beep() override { journal.push_back(L"beep"); }
     void restoreCursor() override { journal.push_back(L"cursor"); }
     void processPendingEvents() override { journal.push_back(L"events"); }
 };
-
-// The Windows-1252 code page, as the system converts it.
-std::wstring DecodeWindows1252(const std::string& bytes);
-std::string EncodeWindows1252(const std::wstring& text);
 
 }  // namespace orvane::testing
