@@ -57,17 +57,22 @@ public:
         return 0;
     }
     bool deleteFile(S path) override {
-        return journal.push_back(L"delete " + path), !lockedFiles.count(path) && files.erase(path);
+        journal.push_back(L"delete " + path);
+        return !lockedFiles.count(path) && files.erase(path);
     }
     std::wstring currentFolder() override { return current; }
     std::wstring lastErrorDescription() override { return errorDescription; }
     std::wstring fromAnsi(const std::string& bytes) override { return DecodeWindows1252(bytes); }
     std::string toAnsi(S text) override { return EncodeWindows1252(text); }
     bool shellExecute(const ShellExecuteRequest& r) override {
-        return journal.push_back(L"shellExecute " + r.verb + L" " + r.file), shellRequests.push_back(r), shellAccepts;
+        journal.push_back(L"shellExecute " + r.verb + L" " + r.file);
+        shellRequests.push_back(r);
+        return shellAccepts;
     }
     std::optional<long long> startCommandLine(S commandLine, int showCode) override {
-        return journal.push_back(L"start " + commandLine), started.push_back({commandLine, showCode}), nextTask;
+        journal.push_back(L"start " + commandLine);
+        started.push_back({commandLine, showCode});
+        return nextTask;
     }
     long long shellVerb(WindowRef owner, S verb, S file, S directory, int showCode) override {
         log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show",
@@ -85,7 +90,9 @@ public:
     std::wstring specialFolder(int csidl) override { return specialFolders[csidl]; }
     OsVersion osVersion() override { return version; }
     MessageAnswer showMessage(S text, S caption, MessageIcon i, MessageButtons b) override {
-        return journal.push_back(L"message " + text), messages.push_back({text, caption, i, b}), MessageAnswer::Ok;
+        journal.push_back(L"message " + text);
+        messages.push_back({text, caption, i, b});
+        return MessageAnswer::Ok;
     }
     std::optional<std::wstring> chooseFile(const FileRequest& request) override {
         fileRequests.push_back(request);
