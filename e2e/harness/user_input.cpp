@@ -74,14 +74,9 @@ void SetControlText(HWND dialog, int id, const std::wstring& text) {
 }
 
 bool AnswerFileDialog(HWND dialog, const std::wstring& fileName) {
-    // The old Explorer-style dialog keeps the name in an edit inside a combo
-    // box (cmb13); the newer one in a plain edit (edt1).
-    constexpr int kNameCombo = 0x47C, kNameEdit = 0x480;
-    HWND name = GetDlgItem(dialog, kNameEdit);
-    if (HWND combo = GetDlgItem(dialog, kNameCombo); !name && combo) {
-        name = FindWindowExW(combo, nullptr, L"ComboBox", nullptr);
-        name = FindWindowExW(name ? name : combo, nullptr, L"Edit", nullptr);
-    }
+    // GetOpenFileNameW's dialog keeps the name in an edit inside a combo box (cmb13).
+    HWND combo = FindWindowExW(GetDlgItem(dialog, 0x47C), nullptr, L"ComboBox", nullptr);
+    HWND name = FindWindowExW(combo ? combo : GetDlgItem(dialog, 0x47C), nullptr, L"Edit", nullptr);
     if (!name) return false;
     SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(fileName.c_str()));
     PressButton(dialog, IDOK);
