@@ -20,31 +20,25 @@ class ProgramFolder {
 public:
     explicit ProgramFolder(const std::wstring& name);
     const std::wstring& path() const { return path_; }
-    std::wstring exe() const { return path_ + L"\\orvane.exe"; }
     std::wstring settingsFile() const { return path_ + L"\\Orvane.ini"; }
 
 private:
     std::wstring path_;
 };
 
+// The program started with its folder as the current folder; ended when a failed test left it running.
 class OrvaneProcess {
 public:
-    // Starts the program with its folder as the current folder.
     explicit OrvaneProcess(const ProgramFolder& folder);
     OrvaneProcess(const OrvaneProcess&) = delete;
     OrvaneProcess& operator=(const OrvaneProcess&) = delete;
-    // Ends a program that a failed test left running.
     ~OrvaneProcess();
 
-    bool started() const { return process_ != nullptr; }
     DWORD id() const { return id_; }
-
+    // Its visible bar or message box; a wait of 0 only looks.
     HWND waitForMainWindow(std::chrono::milliseconds timeout = 15s) const;
     HWND waitForDialog(std::chrono::milliseconds timeout = 15s) const;
-    HWND dialog() const;
-    bool hasMainWindow() const;
-
-    // Asks the main window to close, as its close box does.
+    // Asks the bar to close, as its close box does.
     void close() const;
     // The exit code once the process has ended.
     std::optional<DWORD> waitForExit(std::chrono::milliseconds timeout = 15s) const;
@@ -58,8 +52,5 @@ private:
 std::wstring MessageBoxText(HWND box);
 // Presses a dialog's button, as a click does.
 void PressButton(HWND dialog, int buttonId);
-// The window's outer rectangle in pixels and the screen's DPI.
-RECT WindowRectangle(HWND window);
-int ScreenDpi();
 
 }  // namespace orvane::e2e

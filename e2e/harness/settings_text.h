@@ -7,10 +7,13 @@
 
 namespace orvane::e2e {
 
-// Each line followed by CR LF.
-inline std::string CrLfLines(const std::vector<std::string>& lines) {
+// The 39 lines of a settings file, each ending in CR LF: text lines empty,
+// number lines "0", but the given lines (1-based).
+inline std::string SettingsText(const std::map<int, std::string>& changed = {}) {
+    constexpr char kTextLines[] = "..tttt.......tttttttt......ttt.ttttt...";
     std::string text;
-    for (const auto& line : lines) text += line + "\r\n";
+    for (int line = 1; line <= 39; ++line)
+        text += (changed.count(line) ? changed.at(line) : kTextLines[line - 1] == 't' ? "" : "0") + std::string("\r\n");
     return text;
 }
 
@@ -22,16 +25,6 @@ inline std::vector<std::string> SplitCrLf(const std::string& text) {
     for (std::size_t end; (end = text.find("\r\n", at)) != std::string::npos; at = end + 2)
         lines.push_back(text.substr(at, end - at));
     if (at < text.size()) lines.push_back(text.substr(at));
-    return lines;
-}
-
-// The 39 lines of a settings file: text lines empty, number lines "0", then
-// the given lines (1-based) replaced.
-inline std::vector<std::string> SettingsLines(const std::map<int, std::string>& changed = {}) {
-    static const std::vector<int> textLines = {3, 4, 5, 6, 14, 15, 16, 17, 18, 19, 20, 21, 28, 29, 30, 32, 33, 34, 35, 36};
-    std::vector<std::string> lines(39, "0");
-    for (int line : textLines) lines[line - 1] = "";
-    for (const auto& [line, value] : changed) lines[line - 1] = value;
     return lines;
 }
 
