@@ -27,19 +27,12 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     std::wstring title(path, GetModuleFileNameW(nullptr, path, MAX_PATH * 4));
     title = title.substr(title.find_last_of(L'\\') + 1);
     title.resize(title.rfind(L'.'));
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        if (message == WM_DESTROY) PostQuitMessage(0);
-        return DefWindowProcW(window, message, wParam, lParam);
-    };
-    wc.hInstance = instance;
-    wc.lpszClassName = L"Orvane.Probe";
-    RegisterClassW(&wc);
-    HWND window = CreateWindowW(wc.lpszClassName, title.c_str(), WS_OVERLAPPEDWINDOW, 300, 300, 300, 150, nullptr,
-                                nullptr, instance, nullptr);
+    // A plain static window: closing it destroys it, which ends the loop.
+    HWND window = CreateWindowW(L"STATIC", title.c_str(), WS_OVERLAPPEDWINDOW, 300, 300, 300, 150, nullptr, nullptr,
+                                instance, nullptr);
     ShowWindow(window, SW_SHOWNORMAL);
     SetTimer(window, 1, 60000, [](HWND w, UINT, UINT_PTR, DWORD) { DestroyWindow(w); });  // never outlive a test run
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+    while (IsWindow(window) && GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
     return 0;
 }

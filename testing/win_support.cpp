@@ -99,25 +99,12 @@ std::wstring TextOf(HWND window) {
 }
 
 HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title) {
-    struct Search {
-        DWORD processId;
-        const wchar_t *className, *title;
-        HWND found;
-    } search{processId, className, title, nullptr};
-    EnumWindows(
-        [](HWND window, LPARAM context) -> BOOL {
-            auto& s = *reinterpret_cast<Search*>(context);
-            DWORD owner = 0;
-            wchar_t name[256] = {};
-            GetWindowThreadProcessId(window, &owner);
-            GetClassNameW(window, name, 256);
-            if (owner == s.processId && IsWindowVisible(window) && std::wstring(name) == s.className &&
-                (!s.title || TextOf(window) == s.title))
-                s.found = window;
-            return !s.found;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
+    for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr;) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == processId && IsWindowVisible(window) && (!title || TextOf(window) == title)) return window;
+    }
+    return nullptr;
 }
 
 std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath) {

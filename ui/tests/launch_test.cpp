@@ -58,7 +58,7 @@ TEST_F(RealLaunch, RunningSuiteProgramIsBroughtForwardNotStartedTwice) {
     LaunchSuiteProgram(app, program, document);
     HWND tool = nullptr;
     // Shown, not just created: only a visible window counts as running.
-    ASSERT_TRUE(WaitFor([&] { return (tool = FindWindowW(L"Orvane.Probe", L"probe")) && IsWindowVisible(tool); }, 10s));
+    ASSERT_TRUE(WaitFor([&] { return (tool = FindWindowW(L"Static", L"probe")) && IsWindowVisible(tool); }, 10s));
     HWND other = CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, nullptr,
                                nullptr, nullptr, nullptr);
     SetForegroundWindow(other);
