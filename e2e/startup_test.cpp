@@ -1,13 +1,11 @@
-// Start-up, single instance and shut-down as only a running orvane.exe shows
-// them: the message before the bar, the bar's place and size in twips at any
-// DPI, the earlier copy taking over, settings files that are garbage, huge or
-// locked. How each line is read and written is the unit tests' business.
+// What only a running orvane.exe shows of start-up, single instance and
+// shut-down: the message before the bar, the bar's place and size in twips at
+// any DPI, the earlier copy taking over, garbage, huge or locked settings.
 #include <gtest/gtest.h>
 
 #include <tuple>
 
 #include "orvane_process.h"
-#include "settings_text.h"
 #include "win_support.h"
 
 namespace orvane::e2e {
@@ -107,8 +105,7 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
     }, 15s);
     EXPECT_EQ(second.waitForExit(0ms), 0u);
     EXPECT_FALSE(secondShowedAWindow);
-    EXPECT_TRUE(WaitFor([&] { return !IsIconic(bar); }, 5s)) << "restored";
-    EXPECT_TRUE(WaitFor([&] { return GetForegroundWindow() == bar; }, 5s)) << "brought forward";
+    EXPECT_TRUE(WaitFor([&] { return !IsIconic(bar) && GetForegroundWindow() == bar; }, 5s)) << "restored, in front";
     EXPECT_EQ(ReadBytes(folder.settingsFile()), settings);
     const auto closed = Close(first, bar, folder);
     ASSERT_TRUE(closed);
@@ -133,24 +130,19 @@ TEST(StartUp, TheBarKeepsItsSizeInTwipsOnAHighDpiScreenAndItsWidthWithinTheWorkA
                                                    {39, Twips(area.right - area.left, kDpi)}}, kDpi));
 }
 
-TEST(BadSettings, BinaryGarbageIsReadAsWhatItSaysAndRewrittenCleanEvenBeyondTheCodePage) {
-    ProgramFolder folder(L"garbage settings \u0141\u00f3d\u017a");
-    ASSERT_TRUE(WriteBytes(folder.settingsFile(), Garbage(64 * 1024)));
-    const auto closed = StartQuietlyAndClose(folder);
-    ASSERT_TRUE(closed);
-    EXPECT_EQ(SplitCrLf(closed->written).size(), 39u);
-    EXPECT_TRUE(closed->written.ends_with("\r\n"));
-}
-
-TEST(BadSettings, TenMegabytesWithAMegabyteLineAreReadUpToLine39) {
-    ProgramFolder folder(L"huge settings");
+TEST(BadSettings, GarbageIsRewrittenCleanAndTenMegabytesWithAMegabyteLineAreReadUpToLine39) {
+    // The garbage's folder also has a name the code page lacks.
+    ProgramFolder garbage(L"garbage settings \u0141\u00f3d\u017a"), huge(L"huge settings");
     const std::string longLine(1 << 20, 'x');
     std::string content = SettingsText({{4, longLine}, {7, "11"}});
     while (content.size() < (10u << 20)) content += Garbage(1 << 16) + "\r\n";
-    ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
-    const auto closed = StartQuietlyAndClose(folder);
+    ASSERT_TRUE(WriteBytes(garbage.settingsFile(), Garbage(64 * 1024)) && WriteBytes(huge.settingsFile(), content));
+    auto closed = StartQuietlyAndClose(garbage);
     ASSERT_TRUE(closed);
-    EXPECT_EQ(closed->written, BarFile(folder, closed->bar, {{4, longLine}, {7, "11"}}));
+    EXPECT_EQ(SplitCrLf(closed->written).size(), 39u);
+    EXPECT_TRUE(closed->written.ends_with("\r\n"));
+    ASSERT_TRUE(closed = StartQuietlyAndClose(huge));
+    EXPECT_EQ(closed->written, BarFile(huge, closed->bar, {{4, longLine}, {7, "11"}}));
 }
 
 TEST(BadSettings, LockedFileIsNeitherReadNorOverwritten) {

@@ -1,5 +1,6 @@
 #include "win_support.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -31,8 +32,7 @@ std::wstring Wide(const std::string& utf8) {
 std::wstring WindowsPath(const std::wstring& path) {
     if (path.empty() || path[0] != L'/') return path;
     std::wstring converted = L"Z:" + path;
-    for (wchar_t& c : converted)
-        if (c == L'/') c = L'\\';
+    std::replace(converted.begin(), converted.end(), L'/', L'\\');
     return converted;
 }
 

@@ -18,16 +18,13 @@ using namespace testsupport;
 class RealLaunch : public ::testing::Test {
 protected:
     void SetUp() override {
-        const std::wstring name = Wide(::testing::UnitTest::GetInstance()->current_test_info()->name());
-        folder = FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")), L"launch " + name + L" \u00e4");
-        current = FreshFolder(folder, L"current dir");
         CopyInto(WindowsPath(EnvironmentValue(L"ORVANE_PROBE")), folder);
         GetCurrentDirectoryW(MAX_PATH, previousFolder);
         SetCurrentDirectoryW(current.c_str());
     }
     void TearDown() override { SetCurrentDirectoryW(previousFolder); }
 
-    // The probe's starts, once there is one; or after a while, since a start that should not happen needs time to show.
+    // The probe's starts once there is one, or after a while: a start that should not happen needs time to show.
     std::vector<ProbeRecord> records(bool waitForOne = true) {
         std::vector<ProbeRecord> found;
         if (!waitForOne) Sleep(800);
@@ -35,7 +32,10 @@ protected:
         return found;
     }
 
-    std::wstring folder, current;
+    const std::wstring folder =
+        FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")),
+                    L"launch " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()) + L" \u00e4");
+    const std::wstring current = FreshFolder(folder, L"current dir");
     wchar_t previousFolder[MAX_PATH] = {};
     RecordingSystem sys;
     App app{sys};

@@ -21,11 +21,9 @@ using namespace testsupport;
 
 class RealSystem : public ::testing::Test {
 protected:
-    void SetUp() override {
-        const std::wstring name = Wide(::testing::UnitTest::GetInstance()->current_test_info()->name());
-        folder = FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")), L"system " + name);
-    }
-    std::wstring folder;
+    const std::wstring folder =
+        FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")),
+                    L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     Win32System sys;
 };
 
