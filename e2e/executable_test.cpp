@@ -22,8 +22,8 @@ protected:
                                    SizeofResource(module, found))
                      : std::string();
     }
-    const std::wstring path = WindowsPath(EnvironmentValue(L"ORVANE_EXE"));
-    HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
+    HMODULE module = LoadLibraryExW(EnvironmentPath(L"ORVANE_EXE").c_str(), nullptr,
+                                    LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
 };
 
 TEST_F(Executable, ManifestAsksForModernControlsDpiAndLongPaths) {
@@ -36,11 +36,10 @@ TEST_F(Executable, ManifestAsksForModernControlsDpiAndLongPaths) {
 
 TEST_F(Executable, CarriesAnIconAndItsVersion) {
     EXPECT_FALSE(resource(RT_GROUP_ICON, 1).empty());
-    std::vector<char> info(GetFileVersionInfoSizeW(path.c_str(), nullptr));
+    std::string info = resource(RT_VERSION, 1);  // a copy: reading may write into it
     wchar_t* text = nullptr;
     VS_FIXEDFILEINFO* fixed = nullptr;
     UINT length = 0;
-    ASSERT_TRUE(!info.empty() && GetFileVersionInfoW(path.c_str(), 0, DWORD(info.size()), info.data()));
     ASSERT_TRUE(VerQueryValueW(info.data(), L"\\StringFileInfo\\040904B0\\ProductName", reinterpret_cast<void**>(&text),
                                &length) &&
                 VerQueryValueW(info.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
@@ -51,7 +50,7 @@ TEST_F(Executable, CarriesAnIconAndItsVersion) {
 // Every key kN of the icon table is icon 1000 + N, with an uncompressed 32-bit
 // image drawn at 16 and at 24 pixels, and loads at those sizes.
 TEST_F(Executable, CarriesEveryMenuIconAt16And24Pixels) {
-    std::istringstream table(ReadBytes(WindowsPath(EnvironmentValue(L"ORVANE_MENU_ICONS"))));
+    std::istringstream table(ReadBytes(EnvironmentPath(L"ORVANE_MENU_ICONS")));
     int keys = 0;
     for (std::string line; std::getline(table, line);) {
         int key = 0;

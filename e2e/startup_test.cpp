@@ -3,6 +3,8 @@
 // any DPI, the earlier copy taking over, garbage, huge or locked settings.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
 #include <tuple>
 
 #include "orvane_process.h"
@@ -15,12 +17,7 @@ using namespace testsupport;
 
 constexpr int kBarWidthTwips = 16060, kBarHeightTwips = 1020;
 
-int ScreenDpi() {
-    HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dpi;
-}
+int ScreenDpi() { return static_cast<int>(GetDpiForSystem()); }
 
 LONG Pixels(int twips, int dpi = ScreenDpi()) { return MulDiv(twips, dpi, 1440); }
 std::string Twips(int pixels, int dpi) { return std::to_string(MulDiv(pixels, 1440, dpi)); }
@@ -59,8 +56,7 @@ std::optional<Closed> StartQuietlyAndClose(const ProgramFolder& folder) {
 
 std::string Garbage(std::size_t size) {
     std::string bytes(size, '\0');
-    unsigned state = 12345;
-    for (char& c : bytes) c = static_cast<char>((state = state * 1103515245u + 12345u) >> 16);
+    std::generate(bytes.begin(), bytes.end(), std::minstd_rand(12345));
     return bytes;
 }
 

@@ -1,7 +1,6 @@
-// probe.exe: records how it was started (its exact command line and working
-// folder) in probe.log beside itself, one line per start, UTF-8. When a file
-// "probe.window" lies beside it, it also shows a window titled with its own
-// name (without ".exe") until it is closed, so a test can find it running.
+// probe.exe: records its exact command line and working folder in probe.log
+// beside itself, a line per start, UTF-8. With a file "probe.window" beside it,
+// it also shows a window titled with its name (no ".exe") until it is closed.
 #include <windows.h>
 
 #include "win_support.h"
@@ -22,7 +21,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     DWORD written = 0;
     WriteFile(log, record.data(), static_cast<DWORD>(record.size()), &written, nullptr);
     CloseHandle(log);
-    if (!FileExists(ExeFolder() + L"\\probe.window")) return 0;
+    if (GetFileAttributesW((ExeFolder() + L"\\probe.window").c_str()) == INVALID_FILE_ATTRIBUTES) return 0;
 
     std::wstring title(path, GetModuleFileNameW(nullptr, path, MAX_PATH * 4));
     title = title.substr(title.find_last_of(L'\\') + 1);

@@ -36,10 +36,10 @@ std::wstring WindowsPath(const std::wstring& path) {
     return converted;
 }
 
-std::wstring EnvironmentValue(const wchar_t* name) {
+std::wstring EnvironmentPath(const wchar_t* name) {
     wchar_t value[4096];
     const DWORD length = GetEnvironmentVariableW(name, value, 4096);
-    return std::wstring(value, length < 4096 ? length : 0);
+    return WindowsPath(std::wstring(value, length < 4096 ? length : 0));
 }
 
 std::string ReadBytes(const std::wstring& path) {
@@ -50,11 +50,6 @@ std::string ReadBytes(const std::wstring& path) {
 bool WriteBytes(const std::wstring& path, const std::string& bytes) {
     std::ofstream file(fs::path(path), std::ios::binary);
     return file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush().good();
-}
-
-bool FileExists(const std::wstring& path) {
-    std::error_code error;
-    return fs::is_regular_file(path, error);
 }
 
 void CopyInto(const std::wstring& file, const std::wstring& folder, const std::wstring& newName) {

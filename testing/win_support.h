@@ -16,11 +16,11 @@ std::string Utf8(const std::wstring& text);
 std::wstring Wide(const std::string& utf8);
 // A Linux path ("/work/x") as Wine sees it ("Z:\work\x"); Windows paths pass unchanged.
 std::wstring WindowsPath(const std::wstring& path);
-std::wstring EnvironmentValue(const wchar_t* name);
+// The path an environment variable names, as Wine sees it.
+std::wstring EnvironmentPath(const wchar_t* name);
 
 std::string ReadBytes(const std::wstring& path);
 bool WriteBytes(const std::wstring& path, const std::string& bytes);
-bool FileExists(const std::wstring& path);
 void CopyInto(const std::wstring& file, const std::wstring& folder, const std::wstring& newName = L"");
 // A fresh, empty folder for one test: root\name, removed first if it exists.
 std::wstring FreshFolder(const std::wstring& root, const std::wstring& name);

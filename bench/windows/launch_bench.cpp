@@ -55,7 +55,7 @@ HWND WaitForWindow(DWORD processId, const wchar_t* windowClass) {
 
 int wmain(int argc, wchar_t** argv) {
     int runs = 15;
-    std::wstring orvanePath = ts::EnvironmentValue(L"ORVANE_EXE");
+    std::wstring orvanePath = ts::EnvironmentPath(L"ORVANE_EXE");
     for (int i = 1; i < argc; ++i) {
         if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
         else orvanePath = argv[i];

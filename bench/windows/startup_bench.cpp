@@ -104,7 +104,7 @@ const char* Verdict(bool met) { return met ? "met" : "NOT met"; }
 
 int wmain(int argc, wchar_t** argv) {
     int runs = 7;
-    std::wstring orvanePath = ts::EnvironmentValue(L"ORVANE_EXE");
+    std::wstring orvanePath = ts::EnvironmentPath(L"ORVANE_EXE");
     for (int i = 1; i < argc; ++i) {
         if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
         else orvanePath = argv[i];
@@ -115,7 +115,7 @@ int wmain(int argc, wchar_t** argv) {
         return 2;
     }
 
-    std::wstring root = ts::WindowsPath(ts::EnvironmentValue(L"ORVANE_BENCH_ROOT"));
+    std::wstring root = ts::EnvironmentPath(L"ORVANE_BENCH_ROOT");
     if (root.empty()) root = ts::ExeFolder();
     const std::wstring folder = ts::FreshFolder(root, L"startup bench");
     ts::CopyInto(ts::WindowsPath(orvanePath), folder, L"orvane.exe");
@@ -126,7 +126,7 @@ int wmain(int argc, wchar_t** argv) {
     const Program orvane{"orvane.exe", folder + L"\\orvane.exe", L"Orvane.Main", L"Orvane"};
     const Program empty{"minwin.exe", folder + L"\\minwin.exe", L"Orvane.Bench.Empty", L"Empty"};
     for (const Program* program : {&orvane, &empty}) {
-        if (!ts::FileExists(program->path)) {
+        if (GetFileAttributesW(program->path.c_str()) == INVALID_FILE_ATTRIBUTES) {
             Fail(*program, "could not be copied into the bench folder");
             return 1;
         }

@@ -9,8 +9,8 @@ namespace orvane::e2e {
 using namespace testsupport;
 
 ProgramFolder::ProgramFolder(const std::wstring& name)
-    : path_(FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")), name)) {
-    CopyInto(WindowsPath(EnvironmentValue(L"ORVANE_EXE")), path_);
+    : path_(FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), name)) {
+    CopyInto(EnvironmentPath(L"ORVANE_EXE"), path_);
 }
 
 OrvaneProcess::OrvaneProcess(const ProgramFolder& folder) {

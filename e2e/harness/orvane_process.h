@@ -66,8 +66,7 @@ inline std::string SettingsText(const std::map<int, std::string>& changed = {}) 
     return text;
 }
 
-// The lines of a file whose every line ends in CR LF; a tail without CR LF is
-// returned as a last line so a test sees it.
+// The lines of a file that ends each in CR LF; a tail without one comes last, so a test sees it.
 inline std::vector<std::string> SplitCrLf(const std::string& text) {
     std::vector<std::string> lines;
     std::size_t at = 0;

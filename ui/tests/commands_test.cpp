@@ -24,8 +24,8 @@ struct BadInput {
 };
 
 TEST(BadInput, GetsItsMessageOrItsSpecifiedStart) {
-    const std::wstring folder = FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")), L"bad input");
-    const std::wstring probe = WindowsPath(EnvironmentValue(L"ORVANE_PROBE"));
+    const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), L"bad input");
+    const std::wstring probe = EnvironmentPath(L"ORVANE_PROBE");
     for (const wchar_t* tool : {L"TS_ScratchPad.exe", L"TS_Grid.exe"}) CopyInto(probe, folder, tool);
     CreateDirectoryW((folder + L"\\My Files").c_str(), nullptr);
     WriteBytes(folder + L"\\My Files\\a b.txt", "x");

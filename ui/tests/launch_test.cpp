@@ -1,7 +1,6 @@
-// Real launches under Wine: the probe records the exact command line and
-// working folder of every start. Command lines as the logic builds them are
-// the unit tests' business, menu commands the end-to-end tests'; here the real
-// system finds documents, running tools and the file explorer.
+// Real launches under Wine, recorded by the probe: what only the real system
+// shows of documents, running tools and the file explorer. Command lines are
+// the unit tests' business, menu commands the end-to-end tests'.
 #include <gtest/gtest.h>
 
 #include "app.h"
@@ -18,7 +17,7 @@ using namespace testsupport;
 class RealLaunch : public ::testing::Test {
 protected:
     void SetUp() override {
-        CopyInto(WindowsPath(EnvironmentValue(L"ORVANE_PROBE")), folder);
+        CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder);
         GetCurrentDirectoryW(MAX_PATH, previousFolder);
         SetCurrentDirectoryW(current.c_str());
     }
@@ -32,9 +31,8 @@ protected:
         return found;
     }
 
-    const std::wstring folder =
-        FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")),
-                    L"launch " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()) + L" \u00e4");
+    const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"),
+        L"launch " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()) + L" \u00e4");
     const std::wstring current = FreshFolder(folder, L"current dir");
     wchar_t previousFolder[MAX_PATH] = {};
     RecordingSystem sys;

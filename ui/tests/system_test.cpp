@@ -21,9 +21,8 @@ using namespace testsupport;
 
 class RealSystem : public ::testing::Test {
 protected:
-    const std::wstring folder =
-        FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")),
-                    L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"),
+        L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     Win32System sys;
 };
 
@@ -144,7 +143,7 @@ TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
 
 // Set for the probe program alone, so other tests in the same prefix are not touched.
 TEST(OsVersion, AsWineReportsEachPretendedWindowsToAProgramWithOurManifest) {
-    const std::wstring probe = WindowsPath(EnvironmentValue(L"ORVANE_OSVERSION_PROBE"));
+    const std::wstring probe = EnvironmentPath(L"ORVANE_OSVERSION_PROBE");
     const std::wstring key = L"Software\\Wine\\AppDefaults\\osversion_probe.exe";
     const std::pair<std::wstring, intptr_t> versions[] = {{L"win2k", 500}, {L"winxp64", 502}, {L"vista", 600},
                                                        {L"win7", 601},  {L"win81", 603},   {L"win10", 1000}};
