@@ -22,9 +22,8 @@ int ScreenDpi() { return static_cast<int>(GetDpiForSystem()); }
 LONG Pixels(int twips, int dpi = ScreenDpi()) { return MulDiv(twips, dpi, 1440); }
 std::string Twips(int pixels, int dpi) { return std::to_string(MulDiv(pixels, 1440, dpi)); }
 
-// The settings file the bar writes on closing: its place and size taken from
-// its rectangle, the design colour RGB(240, 240, 240), the default skin, and
-// the given lines.
+// The settings file the bar writes on closing: its place and size from its rectangle, the design colour
+// RGB(240, 240, 240), the default skin, and the given lines.
 std::string BarFile(const ProgramFolder& folder, const RECT& r, std::map<int, std::string> lines = {},
                     int dpi = ScreenDpi()) {
     lines.insert({{1, Twips(r.top, dpi)}, {2, Twips(r.left, dpi)}, {10, Twips(r.right - r.left, dpi)},
@@ -35,10 +34,7 @@ std::string BarFile(const ProgramFolder& folder, const RECT& r, std::map<int, st
 
 // Closes the bar as its close box does: its rectangle, and the settings file
 // as it is after the program ended by itself. Nothing when either went wrong.
-struct Closed {
-    RECT bar;
-    std::string written;
-};
+struct Closed { RECT bar; std::string written; };
 std::optional<Closed> Close(const OrvaneProcess& orvane, HWND bar, const ProgramFolder& folder) {
     RECT r{};
     if (!bar || !GetWindowRect(bar, &r)) return std::nullopt;

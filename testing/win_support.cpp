@@ -7,8 +7,6 @@
 
 namespace orvane::testsupport {
 
-namespace fs = std::filesystem;
-
 std::wstring ExeFolder() {
     wchar_t path[MAX_PATH * 4];
     const std::wstring full(path, GetModuleFileNameW(nullptr, path, MAX_PATH * 4));
@@ -43,12 +41,12 @@ std::wstring EnvironmentPath(const wchar_t* name) {
 }
 
 std::string ReadBytes(const std::wstring& path) {
-    std::ifstream file(fs::path(path), std::ios::binary);
+    std::ifstream file(std::filesystem::path(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 bool WriteBytes(const std::wstring& path, const std::string& bytes) {
-    std::ofstream file(fs::path(path), std::ios::binary);
+    std::ofstream file(std::filesystem::path(path), std::ios::binary);
     return file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush().good();
 }
 
@@ -74,7 +72,7 @@ std::wstring FreshFolder(const std::wstring& root, const std::wstring& name) {
     const std::wstring folder = root + L"\\" + name;
     RemoveTree(folder);
     std::error_code error;
-    fs::create_directories(folder, error);
+    std::filesystem::create_directories(folder, error);
     return folder;
 }
 
@@ -103,8 +101,7 @@ HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t*
 }
 
 std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath) {
-    // A record a line: the command line, a tab, the working folder; a line
-    // still being written has no line end yet.
+    // A line per start: the command line, a tab, the working folder; one still being written has no line end.
     const std::string log = ReadBytes(logPath);
     std::vector<ProbeRecord> records;
     for (std::size_t at = 0, end; (end = log.find('\n', at)) != std::string::npos; at = end + 1) {

@@ -53,10 +53,8 @@ void OrvaneProcess::close() const {
 
 std::optional<DWORD> OrvaneProcess::waitForExit(std::chrono::milliseconds timeout) const {
     DWORD code = 0;
-    if (!process_ || WaitForSingleObject(process_, static_cast<DWORD>(timeout.count())) != WAIT_OBJECT_0)
-        return std::nullopt;
-    GetExitCodeProcess(process_, &code);
-    return code;
+    const bool ended = process_ && WaitForSingleObject(process_, static_cast<DWORD>(timeout.count())) == WAIT_OBJECT_0;
+    return ended && GetExitCodeProcess(process_, &code) ? std::optional(code) : std::nullopt;
 }
 
 std::wstring MessageBoxText(HWND box) {

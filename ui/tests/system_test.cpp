@@ -71,12 +71,11 @@ TEST_F(RealSystem, AnsiCodecFollowsTheCodePage) {
 
 TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStrings) {
     const wchar_t* key = L"Software\\Orvane Tests";
-    const std::wstring text = L"C:\\Some where";
     const DWORD number = 7;
-    RegSetKeyValueW(HKEY_CURRENT_USER, key, L"text", REG_SZ, text.c_str(), DWORD((text.size() + 1) * sizeof(wchar_t)));
+    RegSetKeyValueW(HKEY_CURRENT_USER, key, L"text", REG_SZ, L"C:\\Some where", sizeof L"C:\\Some where");
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"number", REG_DWORD, &number, sizeof number);
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"expandable", REG_EXPAND_SZ, L"%TEMP%", 14);
-    EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"text"), text);
+    EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"text"), L"C:\\Some where");
     for (const wchar_t* value : {L"number", L"expandable", L"missing"})
         EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, value), std::nullopt) << Utf8(value);
     EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, L"Software\\No Such Key", L"x"), std::nullopt);
