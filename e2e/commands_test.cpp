@@ -9,7 +9,6 @@
 #include "menu.h"
 #include "orvane_process.h"
 #include "resource.h"
-#include "settings_text.h"
 #include "user_input.h"
 #include "win_support.h"
 
@@ -23,8 +22,8 @@ protected:
     // A program folder with the given settings and the probe under the given names.
     HWND start(const std::map<int, std::string>& settings, std::initializer_list<const wchar_t*> probes = {}) {
         CreateDirectoryW((folder.path() + L"\\My Office").c_str(), nullptr);
-        for (const wchar_t* name : probes) CopyInto(WindowsPath(EnvironmentValue(L"ORVANE_PROBE")), folder.path(), name);
-        WriteBytes(folder.settingsFile(), CrLfLines(SettingsLines(settings)));
+        for (const wchar_t* name : probes) CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder.path(), name);
+        WriteBytes(folder.settingsFile(), SettingsText(settings));
         orvane = std::make_unique<OrvaneProcess>(folder);
         return orvane->waitForMainWindow();
     }

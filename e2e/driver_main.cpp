@@ -10,20 +10,19 @@
 #include "win_support.h"
 
 using namespace orvane;
-using namespace std::chrono_literals;
 
-namespace {
-
-HWND WaitForBar() {
+int wmain(int argc, wchar_t** argv) {
+    const std::wstring step = argc > 1 ? argv[1] : L"";
+    if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar") {
+        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | close-bar\n");
+        return 2;
+    }
     HWND bar = nullptr;
     testsupport::WaitFor([&] { return (bar = FindWindowW(e2e::kMainWindowClass, nullptr)) && IsWindowVisible(bar); },
-                         30s);
-    return bar;
-}
-
-int CloseBar() {
-    HWND bar = FindWindowW(e2e::kMainWindowClass, nullptr);
+                         std::chrono::seconds(step == L"close-bar" ? 0 : 30));
     if (!bar) return 1;
+    if (step == L"open-menu") e2e::PressKeys(bar, {VK_MENU, 'F'});
+    if (step != L"close-bar") return 0;
     DWORD processId = 0;
     GetWindowThreadProcessId(bar, &processId);
     HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
@@ -32,19 +31,4 @@ int CloseBar() {
     const bool ended = process && WaitForSingleObject(process, 30000) == WAIT_OBJECT_0;
     if (process) CloseHandle(process);
     return ended ? 0 : 1;
-}
-
-}  // namespace
-
-int wmain(int argc, wchar_t** argv) {
-    const std::wstring step = argc > 1 ? argv[1] : L"";
-    if (step == L"wait-bar") return WaitForBar() ? 0 : 1;
-    if (step == L"close-bar") return CloseBar();
-    if (step == L"open-menu") {
-        HWND bar = WaitForBar();
-        if (bar) e2e::PressKeys(bar, {VK_MENU, 'F'});
-        return bar ? 0 : 1;
-    }
-    std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | close-bar\n");
-    return 2;
 }

@@ -3,9 +3,7 @@
 
 #include <cstdio>
 #include <sstream>
-#include <string>
 #include <tuple>
-#include <vector>
 
 #include "win_support.h"
 
@@ -16,24 +14,20 @@ using namespace testsupport;
 
 class Executable : public ::testing::Test {
 protected:
-    void SetUp() override {
-        module = LoadLibraryExW(WindowsPath(EnvironmentValue(L"ORVANE_EXE")).c_str(), nullptr,
-                                LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
-        ASSERT_NE(module, nullptr);
-    }
+    void SetUp() override { ASSERT_NE(module, nullptr); }
     void TearDown() override { FreeLibrary(module); }
-
-    std::string resource(const wchar_t* type, const wchar_t* name) {
-        HRSRC found = FindResourceW(module, name, type);
-        if (!found) return {};
-        HGLOBAL loaded = LoadResource(module, found);
-        return std::string(static_cast<const char*>(LockResource(loaded)), SizeofResource(module, found));
+    std::string resource(const wchar_t* type, int id) {
+        HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), type);
+        return found ? std::string(static_cast<const char*>(LockResource(LoadResource(module, found))),
+                                   SizeofResource(module, found))
+                     : std::string();
     }
-    HMODULE module = nullptr;
+    HMODULE module = LoadLibraryExW(EnvironmentPath(L"ORVANE_EXE").c_str(), nullptr,
+                                    LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
 };
 
 TEST_F(Executable, ManifestAsksForModernControlsDpiAndLongPaths) {
-    const std::string manifest = resource(RT_MANIFEST, MAKEINTRESOURCEW(1));
+    const std::string manifest = resource(RT_MANIFEST, 1);
     for (const char* expected : {"Microsoft.Windows.Common-Controls", "version=\"6.0.0.0\"", "PerMonitorV2",
                                  "<longPathAware", "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}",
                                  "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}", "asInvoker"})
@@ -41,36 +35,33 @@ TEST_F(Executable, ManifestAsksForModernControlsDpiAndLongPaths) {
 }
 
 TEST_F(Executable, CarriesAnIconAndItsVersion) {
-    EXPECT_FALSE(resource(RT_GROUP_ICON, MAKEINTRESOURCEW(1)).empty());
-    const std::wstring path = WindowsPath(EnvironmentValue(L"ORVANE_EXE"));
-    std::vector<char> info(GetFileVersionInfoSizeW(path.c_str(), nullptr));
-    ASSERT_FALSE(info.empty());
-    ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(info.size()), info.data()));
+    EXPECT_FALSE(resource(RT_GROUP_ICON, 1).empty());
+    std::string info = resource(RT_VERSION, 1);  // a copy: reading may write into it
     wchar_t* text = nullptr;
+    VS_FIXEDFILEINFO* fixed = nullptr;
     UINT length = 0;
     ASSERT_TRUE(VerQueryValueW(info.data(), L"\\StringFileInfo\\040904B0\\ProductName", reinterpret_cast<void**>(&text),
-                               &length));
+                               &length) &&
+                VerQueryValueW(info.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
     EXPECT_EQ(std::wstring(text), L"Tellmark Set");
-    VS_FIXEDFILEINFO* fixed = nullptr;
-    ASSERT_TRUE(VerQueryValueW(info.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
     EXPECT_EQ(HIWORD(fixed->dwFileVersionMS), 1);
 }
 
 // Every key kN of the icon table is icon 1000 + N, with an uncompressed 32-bit
 // image drawn at 16 and at 24 pixels, and loads at those sizes.
 TEST_F(Executable, CarriesEveryMenuIconAt16And24Pixels) {
-    std::istringstream table(ReadBytes(WindowsPath(EnvironmentValue(L"ORVANE_MENU_ICONS"))));
+    std::istringstream table(ReadBytes(EnvironmentPath(L"ORVANE_MENU_ICONS")));
     int keys = 0;
     for (std::string line; std::getline(table, line);) {
         int key = 0;
         if (std::sscanf(line.c_str(), "k%d", &key) != 1) continue;  // comments
         ++keys;
-        std::string group = resource(RT_GROUP_ICON, MAKEINTRESOURCEW(1000 + key));
+        std::string group = resource(RT_GROUP_ICON, 1000 + key);
         ASSERT_FALSE(group.empty()) << "k" << key;
         for (const int size : {16, 24}) {
             SCOPED_TRACE("k" + std::to_string(key) + " at " + std::to_string(size));
             const int id = LookupIconIdFromDirectoryEx(reinterpret_cast<BYTE*>(group.data()), TRUE, size, size, 0);
-            const std::string image = resource(RT_ICON, MAKEINTRESOURCEW(id));
+            const std::string image = resource(RT_ICON, id);
             ASSERT_GE(image.size(), sizeof(BITMAPINFOHEADER));
             const auto* header = reinterpret_cast<const BITMAPINFOHEADER*>(image.data());
             EXPECT_EQ(std::tuple(header->biWidth, header->biBitCount), std::tuple(LONG(size), WORD(32)));

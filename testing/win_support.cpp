@@ -1,18 +1,19 @@
 #include "win_support.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <thread>
 
 namespace orvane::testsupport {
 
 std::wstring ExeFolder() {
     wchar_t path[MAX_PATH * 4];
-    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH * 4);
-    std::wstring full(path, length);
+    const std::wstring full(path, GetModuleFileNameW(nullptr, path, MAX_PATH * 4));
     return full.substr(0, full.find_last_of(L'\\'));
 }
 
 std::string Utf8(const std::wstring& text) {
-    if (text.empty()) return {};
     const int size = static_cast<int>(text.size());
     std::string bytes(WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr), '\0');
     WideCharToMultiByte(CP_UTF8, 0, text.data(), size, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
@@ -20,7 +21,6 @@ std::string Utf8(const std::wstring& text) {
 }
 
 std::wstring Wide(const std::string& utf8) {
-    if (utf8.empty()) return {};
     const int size = static_cast<int>(utf8.size());
     std::wstring text(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0), L'\0');
     MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text.data(), static_cast<int>(text.size()));
@@ -30,42 +30,24 @@ std::wstring Wide(const std::string& utf8) {
 std::wstring WindowsPath(const std::wstring& path) {
     if (path.empty() || path[0] != L'/') return path;
     std::wstring converted = L"Z:" + path;
-    for (wchar_t& c : converted)
-        if (c == L'/') c = L'\\';
+    std::replace(converted.begin(), converted.end(), L'/', L'\\');
     return converted;
 }
 
-std::wstring EnvironmentValue(const wchar_t* name) {
+std::wstring EnvironmentPath(const wchar_t* name) {
     wchar_t value[4096];
     const DWORD length = GetEnvironmentVariableW(name, value, 4096);
-    return length && length < 4096 ? std::wstring(value, length) : std::wstring();
+    return WindowsPath(std::wstring(value, length < 4096 ? length : 0));
 }
 
 std::string ReadBytes(const std::wstring& path) {
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                              nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return {};
-    std::string bytes;
-    char buffer[65536];
-    DWORD got = 0;
-    while (ReadFile(file, buffer, sizeof buffer, &got, nullptr) && got) bytes.append(buffer, got);
-    CloseHandle(file);
-    return bytes;
+    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 bool WriteBytes(const std::wstring& path, const std::string& bytes) {
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
-    DWORD written = 0;
-    const bool ok = WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-                    written == bytes.size();
-    CloseHandle(file);
-    return ok;
-}
-
-bool FileExists(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+    std::ofstream file(std::filesystem::path(path), std::ios::binary);
+    return file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush().good();
 }
 
 void CopyInto(const std::wstring& file, const std::wstring& folder, const std::wstring& newName) {
@@ -76,43 +58,30 @@ void CopyInto(const std::wstring& file, const std::wstring& folder, const std::w
 void RemoveTree(const std::wstring& folder) {
     WIN32_FIND_DATAW found;
     HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
-    if (search != INVALID_HANDLE_VALUE) {
-        do {
-            const std::wstring name = found.cFileName;
-            if (name == L"." || name == L"..") continue;
-            const std::wstring path = folder + L"\\" + name;
-            if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) RemoveTree(path);
-            else {
-                SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-                DeleteFileW(path.c_str());
-            }
-        } while (FindNextFileW(search, &found));
-        FindClose(search);
+    for (bool more = search != INVALID_HANDLE_VALUE; more; more = FindNextFileW(search, &found)) {
+        const std::wstring name = found.cFileName, path = folder + L"\\" + name;
+        if (name == L"." || name == L"..") continue;
+        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) RemoveTree(path);
+        else if (SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL)) DeleteFileW(path.c_str());  // read-only too
     }
+    if (search != INVALID_HANDLE_VALUE) FindClose(search);
     RemoveDirectoryW(folder.c_str());
 }
 
 std::wstring FreshFolder(const std::wstring& root, const std::wstring& name) {
-    CreateDirectoryW(root.c_str(), nullptr);
     const std::wstring folder = root + L"\\" + name;
     RemoveTree(folder);
-    CreateDirectoryW(folder.c_str(), nullptr);
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
     return folder;
 }
 
 bool WaitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout) {
-    const auto end = std::chrono::steady_clock::now() + timeout;
-    for (;;) {
-        if (condition()) return true;
+    for (const auto end = std::chrono::steady_clock::now() + timeout; !condition();) {
         if (std::chrono::steady_clock::now() > end) return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-}
-
-std::wstring ClassOf(HWND window) {
-    wchar_t name[256] = {};
-    GetClassNameW(window, name, 256);
-    return name;
+    return true;
 }
 
 std::wstring TextOf(HWND window) {
@@ -122,44 +91,23 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-std::vector<HWND> ProcessWindows(DWORD processId, const wchar_t* className) {
-    struct Search {
-        DWORD processId;
-        const wchar_t* className;
-        std::vector<HWND> found;
-    } search{processId, className, {}};
-    EnumWindows(
-        [](HWND window, LPARAM context) -> BOOL {
-            auto& s = *reinterpret_cast<Search*>(context);
-            DWORD owner = 0;
-            GetWindowThreadProcessId(window, &owner);
-            if (owner == s.processId && IsWindowVisible(window) && ClassOf(window) == s.className)
-                s.found.push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
 HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title) {
-    for (HWND window : ProcessWindows(processId, className))
-        if (!title || TextOf(window) == title) return window;
+    for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr;) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == processId && IsWindowVisible(window) && (!title || TextOf(window) == title)) return window;
+    }
     return nullptr;
 }
 
 std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath) {
-    // Records: "CMDLINE=...\nCWD=...\nEND\n", UTF-8.
+    // A line per start: the command line, a tab, the working folder; one still being written has no line end.
     const std::string log = ReadBytes(logPath);
     std::vector<ProbeRecord> records;
-    std::size_t at = 0;
-    for (;;) {
-        const std::size_t end = log.find("\nEND\n", at);
-        if (end == std::string::npos) break;
-        const std::string record = log.substr(at, end - at);
-        const std::size_t folder = record.find("\nCWD=");
-        if (record.rfind("CMDLINE=", 0) == 0 && folder != std::string::npos)
-            records.push_back({record.substr(8, folder - 8), record.substr(folder + 5)});
-        at = end + 5;
+    for (std::size_t at = 0, end; (end = log.find('\n', at)) != std::string::npos; at = end + 1) {
+        const std::size_t tab = log.rfind('\t', end);
+        if (tab != std::string::npos && tab >= at)
+            records.push_back({log.substr(at, tab - at), log.substr(tab + 1, end - tab - 1)});
     }
     return records;
 }

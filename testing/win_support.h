@@ -14,34 +14,28 @@ namespace orvane::testsupport {
 std::wstring ExeFolder();
 std::string Utf8(const std::wstring& text);
 std::wstring Wide(const std::string& utf8);
-
 // A Linux path ("/work/x") as Wine sees it ("Z:\work\x"); Windows paths pass unchanged.
 std::wstring WindowsPath(const std::wstring& path);
-std::wstring EnvironmentValue(const wchar_t* name);
+// The path an environment variable names, as Wine sees it.
+std::wstring EnvironmentPath(const wchar_t* name);
 
 std::string ReadBytes(const std::wstring& path);
 bool WriteBytes(const std::wstring& path, const std::string& bytes);
-bool FileExists(const std::wstring& path);
 void CopyInto(const std::wstring& file, const std::wstring& folder, const std::wstring& newName = L"");
-
 // A fresh, empty folder for one test: root\name, removed first if it exists.
 std::wstring FreshFolder(const std::wstring& root, const std::wstring& name);
 void RemoveTree(const std::wstring& folder);
 
 // Polls until the condition holds or the time is up; true when it held.
 bool WaitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout);
-
 // A visible top-level window of the process, by class (and title when given).
 HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title = nullptr);
-std::vector<HWND> ProcessWindows(DWORD processId, const wchar_t* className);
-std::wstring ClassOf(HWND window);
 // Text of another process's window or control, through WM_GETTEXT.
 std::wstring TextOf(HWND window);
 
-// One launch seen by the probe: its exact command line and working folder.
+// One start seen by the probe: its exact command line and working folder.
 struct ProbeRecord {
-    std::string commandLine;
-    std::string folder;
+    std::string commandLine, folder;
 };
 std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath);
 

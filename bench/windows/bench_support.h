@@ -61,7 +61,7 @@ struct Arguments {
     std::wstring orvane;
 };
 inline std::optional<Arguments> ParseArguments(int argc, wchar_t** argv, const char* name, int runs, int fewest) {
-    Arguments given{runs, testsupport::EnvironmentValue(L"ORVANE_EXE")};
+    Arguments given{runs, testsupport::EnvironmentPath(L"ORVANE_EXE")};
     for (int i = 1; i < argc; ++i) {
         if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) given.runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
         else given.orvane = argv[i];

@@ -108,7 +108,7 @@ int wmain(int argc, wchar_t** argv) {
     const int runs = arguments->runs;
     const std::wstring& orvanePath = arguments->orvane;
 
-    std::wstring root = ts::WindowsPath(ts::EnvironmentValue(L"ORVANE_BENCH_ROOT"));
+    std::wstring root = ts::EnvironmentPath(L"ORVANE_BENCH_ROOT");
     if (root.empty()) root = ts::ExeFolder();
     const std::wstring folder = ts::FreshFolder(root, L"startup bench");
     ts::CopyInto(ts::WindowsPath(orvanePath), folder, L"orvane.exe");
@@ -119,7 +119,7 @@ int wmain(int argc, wchar_t** argv) {
     const Program orvane{"orvane.exe", folder + L"\\orvane.exe", L"Orvane.Main", L"Orvane"};
     const Program empty{"minwin.exe", folder + L"\\minwin.exe", L"Orvane.Bench.Empty", L"Empty"};
     for (const Program* program : {&orvane, &empty}) {
-        if (!ts::FileExists(program->path)) {
+        if (GetFileAttributesW(program->path.c_str()) == INVALID_FILE_ATTRIBUTES) {
             Fail(*program, "could not be copied into the bench folder");
             return 1;
         }

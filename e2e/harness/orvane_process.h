@@ -1,12 +1,15 @@
 // Drives orvane.exe from another process the way a user would: start it in a
-// program folder, find its windows, answer its message boxes, close it.
+// program folder with a settings file, find its windows, answer its message
+// boxes, close it, read what it wrote.
 #pragma once
 
 #include <windows.h>
 
 #include <chrono>
+#include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace orvane::e2e {
 
@@ -20,31 +23,25 @@ class ProgramFolder {
 public:
     explicit ProgramFolder(const std::wstring& name);
     const std::wstring& path() const { return path_; }
-    std::wstring exe() const { return path_ + L"\\orvane.exe"; }
     std::wstring settingsFile() const { return path_ + L"\\Orvane.ini"; }
 
 private:
     std::wstring path_;
 };
 
+// The program started with its folder as the current folder; ended when a failed test left it running.
 class OrvaneProcess {
 public:
-    // Starts the program with its folder as the current folder.
     explicit OrvaneProcess(const ProgramFolder& folder);
     OrvaneProcess(const OrvaneProcess&) = delete;
     OrvaneProcess& operator=(const OrvaneProcess&) = delete;
-    // Ends a program that a failed test left running.
     ~OrvaneProcess();
 
-    bool started() const { return process_ != nullptr; }
     DWORD id() const { return id_; }
-
+    // Its visible bar or message box; a wait of 0 only looks.
     HWND waitForMainWindow(std::chrono::milliseconds timeout = 15s) const;
     HWND waitForDialog(std::chrono::milliseconds timeout = 15s) const;
-    HWND dialog() const;
-    bool hasMainWindow() const;
-
-    // Asks the main window to close, as its close box does.
+    // Asks the bar to close, as its close box does.
     void close() const;
     // The exit code once the process has ended.
     std::optional<DWORD> waitForExit(std::chrono::milliseconds timeout = 15s) const;
@@ -58,8 +55,25 @@ private:
 std::wstring MessageBoxText(HWND box);
 // Presses a dialog's button, as a click does.
 void PressButton(HWND dialog, int buttonId);
-// The window's outer rectangle in pixels and the screen's DPI.
-RECT WindowRectangle(HWND window);
-int ScreenDpi();
+
+// The 39 lines of a settings file, each ending in CR LF: text lines empty,
+// number lines "0", but the given lines (1-based).
+inline std::string SettingsText(const std::map<int, std::string>& changed = {}) {
+    constexpr char kTextLines[] = "..tttt.......tttttttt......ttt.ttttt...";
+    std::string text;
+    for (int line = 1; line <= 39; ++line)
+        text += (changed.count(line) ? changed.at(line) : kTextLines[line - 1] == 't' ? "" : "0") + std::string("\r\n");
+    return text;
+}
+
+// The lines of a file that ends each in CR LF; a tail without one comes last, so a test sees it.
+inline std::vector<std::string> SplitCrLf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t at = 0;
+    for (std::size_t end; (end = text.find("\r\n", at)) != std::string::npos; at = end + 2)
+        lines.push_back(text.substr(at, end - at));
+    if (at < text.size()) lines.push_back(text.substr(at));
+    return lines;
+}
 
 }  // namespace orvane::e2e

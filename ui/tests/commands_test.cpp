@@ -14,9 +14,9 @@ using namespace std::chrono_literals;
 using namespace testsupport;
 
 TEST(BadInput, FoldersAndLongOrBlankDocumentsGetTheirMessageOrTheirStart) {
-    const std::wstring folder = FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")), L"bad input");
+    const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), L"bad input");
     for (const wchar_t* tool : {L"TS_ScratchPad.exe", L"TS_Grid.exe"})
-        CopyInto(WindowsPath(EnvironmentValue(L"ORVANE_PROBE")), folder, tool);
+        CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder, tool);
     // A document with blanks, and one deeper than MAX_PATH characters.
     const std::wstring blanks = folder + L"\\My Files\\a b.txt";
     const std::wstring deep = folder + L"\\" + std::wstring(120, L'd') + L"\\" + std::wstring(120, L'e');

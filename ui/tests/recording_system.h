@@ -8,8 +8,7 @@
 
 namespace orvane::ui {
 
-class RecordingSystem : public Win32System {
-public:
+struct RecordingSystem : Win32System {
     MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon,
                               MessageButtons) override {
         messages.push_back(caption + L": " + text);

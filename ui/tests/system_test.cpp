@@ -1,13 +1,18 @@
-// The Win32 system interface against the real file system, registry and shell.
+// The Win32 system interface against the real file system, registry, shell,
+// windows and the versions Wine pretends to be.
 #include <gtest/gtest.h>
 
+#include <process.h>
 #include <shlobj.h>
+
+#include <algorithm>
 
 #include "app.h"
 #include "handles.h"
 #include "helpers.h"
 #include "win32_system.h"
 #include "win_support.h"
+#include "winlist.h"
 
 namespace orvane::ui {
 namespace {
@@ -16,11 +21,8 @@ using namespace testsupport;
 
 class RealSystem : public ::testing::Test {
 protected:
-    void SetUp() override {
-        const std::wstring name = Wide(::testing::UnitTest::GetInstance()->current_test_info()->name());
-        folder = FreshFolder(WindowsPath(EnvironmentValue(L"ORVANE_TEST_ROOT")), L"system " + name);
-    }
-    std::wstring folder;
+    const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"),
+        L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     Win32System sys;
 };
 
@@ -38,23 +40,15 @@ TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
     }
 }
 
-TEST_F(RealSystem, WrittenBytesReadBackExactlyAndDeleteRemoves) {
+TEST_F(RealSystem, BytesReadBackExactlyAndALockedFileIsNeitherReadNorWrittenNorDeleted) {
     const std::wstring file = folder + L"\\Orvane.ini";
-    std::string bytes = "0\r\n  C:\\x.exe  \r\n\x80\xFF\r\n";
-    bytes += std::string(3, '\0');
+    const std::string bytes = std::string("0\r\n  C:\\x.exe  \r\n\x80\xFF\r\n") + std::string(3, '\0');
     ASSERT_EQ(sys.writeFile(file, bytes), 0);
     EXPECT_EQ(sys.readFile(file, 1 << 20), bytes);
     EXPECT_EQ(sys.readFile(file, 3), "0\r\n");
-    ASSERT_EQ(sys.writeFile(file, "short"), 0);
-    EXPECT_EQ(ReadBytes(file), "short") << "rewritten from scratch";
-    EXPECT_TRUE(sys.deleteFile(file));
-    EXPECT_FALSE(sys.readFile(file, 100).has_value());
-    EXPECT_FALSE(sys.lastErrorDescription().empty());
-}
+    ASSERT_EQ(sys.writeFile(file, "keep me"), 0);
+    EXPECT_EQ(ReadBytes(file), "keep me") << "rewritten from scratch";
 
-TEST_F(RealSystem, LockedFileCannotBeReadNorWrittenAndSaysWhy) {
-    const std::wstring file = folder + L"\\locked.ini";
-    WriteBytes(file, "keep me");
     UniqueFile lock(CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(lock);
     EXPECT_TRUE(sys.fileExists(file));
@@ -64,6 +58,8 @@ TEST_F(RealSystem, LockedFileCannotBeReadNorWrittenAndSaysWhy) {
     EXPECT_FALSE(sys.deleteFile(file));
     lock.reset();
     EXPECT_EQ(ReadBytes(file), "keep me");
+    EXPECT_TRUE(sys.deleteFile(file));
+    EXPECT_FALSE(sys.readFile(file, 100).has_value());
     EXPECT_EQ(sys.writeFile(folder + L"\\no such folder\\x.ini", "x"), 76);
 }
 
@@ -75,13 +71,11 @@ TEST_F(RealSystem, AnsiCodecFollowsTheCodePage) {
 
 TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStrings) {
     const wchar_t* key = L"Software\\Orvane Tests";
-    const std::wstring text = L"C:\\Some where";
     const DWORD number = 7;
-    RegSetKeyValueW(HKEY_CURRENT_USER, key, L"text", REG_SZ, text.c_str(),
-                    static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+    RegSetKeyValueW(HKEY_CURRENT_USER, key, L"text", REG_SZ, L"C:\\Some where", sizeof L"C:\\Some where");
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"number", REG_DWORD, &number, sizeof number);
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"expandable", REG_EXPAND_SZ, L"%TEMP%", 14);
-    EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"text"), text);
+    EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"text"), L"C:\\Some where");
     for (const wchar_t* value : {L"number", L"expandable", L"missing"})
         EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, value), std::nullopt) << Utf8(value);
     EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, L"Software\\No Such Key", L"x"), std::nullopt);
@@ -99,19 +93,65 @@ TEST_F(RealSystem, ProgramFilesAndDocumentsFoldersAreTheSystems) {
 }
 
 TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
-    int timerRuns = 0;
-    static int* counter = nullptr;
-    counter = &timerRuns;
-    const UINT_PTR timer = SetTimer(nullptr, 0, 1, [](HWND, UINT, UINT_PTR, DWORD) { ++*counter; });
-    Sleep(50);
-    sys.processPendingEvents();
-    KillTimer(nullptr, timer);
-    EXPECT_GE(timerRuns, 1);
+    HWND window = CreateWindowW(L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    PostMessageW(window, WM_CLOSE, 0, 0);
     PostQuitMessage(3);
     sys.processPendingEvents();
+    EXPECT_FALSE(IsWindow(window)) << "the pending close ran";
     MSG message;
     ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(message.wParam, 3u);
+}
+
+TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
+    constexpr DWORD kShown = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
+    const auto make = [](const wchar_t* title, DWORD style, DWORD exStyle = 0, HWND parent = nullptr) {
+        return UniqueWindow(
+            CreateWindowExW(exStyle, L"STATIC", title, style, 10, 10, 120, 60, parent, nullptr, nullptr, nullptr));
+    };
+    const UniqueWindow bar = make(L"Orvane", kShown), plain = make(L"Listed plain", kShown),
+                       lower = make(L"Listed lower", kShown);
+    const UniqueWindow others[] = {
+        make(L"Listed owned app window", kShown, WS_EX_APPWINDOW, plain.get()), make(L"Hidden", WS_OVERLAPPEDWINDOW),
+        make(L"Child", WS_CHILD | WS_VISIBLE, 0, plain.get()), make(L"Owned", kShown, 0, plain.get()),
+        make(L"Owned popup app window", WS_POPUP | WS_VISIBLE, WS_EX_APPWINDOW, plain.get()),
+        make(L"Tool", kShown, WS_EX_TOOLWINDOW), make(L"", kShown)};
+    ASSERT_TRUE(bar && plain && lower);
+    for (const UniqueWindow& w : others) ASSERT_TRUE(w);
+    SetWindowPos(plain.get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    SetWindowPos(lower.get(), plain.get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+
+    Win32System sys;
+    App app(sys);
+    app.MainWindowRef = ToRef(bar.get());
+    RefreshWindowList(app);
+    std::vector<std::wstring> ours;  // in list order
+    for (const WindowListEntry& entry : app.windowList) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(ToHwnd(entry.handle), &process);
+        if (process == GetCurrentProcessId()) ours.push_back(entry.title);
+    }
+    const auto at = [&](const wchar_t* title) { return std::find(ours.begin(), ours.end(), title) - ours.begin(); };
+    EXPECT_LT(at(L"Listed plain"), at(L"Listed lower"));
+    std::sort(ours.begin(), ours.end());
+    // An owned popup reports its owner as parent, so it stays out too.
+    EXPECT_EQ(ours, (std::vector<std::wstring>{L"Listed lower", L"Listed owned app window", L"Listed plain"}));
+    EXPECT_EQ(FindListedWindow(app.windowList, L"Listed plain"), ToRef(plain.get()));
+    EXPECT_EQ(FindListedWindow(app.windowList, L"Orvane"), 0u) << "the bar itself never enters";
+}
+
+// Set for the probe program alone, so other tests in the same prefix are not touched.
+TEST(OsVersion, AsWineReportsEachPretendedWindowsToAProgramWithOurManifest) {
+    const std::wstring probe = EnvironmentPath(L"ORVANE_OSVERSION_PROBE");
+    const std::wstring key = L"Software\\Wine\\AppDefaults\\osversion_probe.exe";
+    const std::pair<std::wstring, intptr_t> versions[] = {{L"win2k", 500}, {L"winxp64", 502}, {L"vista", 600},
+                                                       {L"win7", 601},  {L"win81", 603},   {L"win10", 1000}};
+    for (const auto& [name, expected] : versions) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), L"Version", REG_SZ, name.c_str(),
+                        DWORD((name.size() + 1) * sizeof(wchar_t)));
+        EXPECT_EQ(_wspawnl(_P_WAIT, probe.c_str(), (L"\"" + probe + L"\"").c_str(), nullptr), expected) << Utf8(name);
+    }
+    RegDeleteTreeW(HKEY_CURRENT_USER, key.c_str());
 }
 
 }  // namespace
