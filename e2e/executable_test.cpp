@@ -3,7 +3,6 @@
 
 #include <cstdio>
 #include <sstream>
-#include <tuple>
 
 #include "win_support.h"
 
@@ -47,8 +46,9 @@ TEST_F(Executable, CarriesAnIconAndItsVersion) {
     EXPECT_EQ(HIWORD(fixed->dwFileVersionMS), 1);
 }
 
-// Every key kN of the icon table is icon 1000 + N, with an uncompressed 32-bit
-// image drawn at 16 and at 24 pixels, and loads at those sizes.
+// Every key kN of the icon table is icon 1000 + N with images of its own, 32-bit,
+// at 16 and 24 pixels (loading one would scale any size to fit, so the
+// images are read directly).
 TEST_F(Executable, CarriesEveryMenuIconAt16And24Pixels) {
     std::istringstream table(ReadBytes(EnvironmentPath(L"ORVANE_MENU_ICONS")));
     int keys = 0;
@@ -57,24 +57,15 @@ TEST_F(Executable, CarriesEveryMenuIconAt16And24Pixels) {
         if (std::sscanf(line.c_str(), "k%d", &key) != 1) continue;  // comments
         ++keys;
         std::string group = resource(RT_GROUP_ICON, 1000 + key);
-        ASSERT_FALSE(group.empty()) << "k" << key;
         for (const int size : {16, 24}) {
-            SCOPED_TRACE("k" + std::to_string(key) + " at " + std::to_string(size));
-            const int id = LookupIconIdFromDirectoryEx(reinterpret_cast<BYTE*>(group.data()), TRUE, size, size, 0);
+            const int id = group.empty() ? 0 : LookupIconIdFromDirectoryEx(reinterpret_cast<BYTE*>(group.data()), TRUE, size, size, 0);
             const std::string image = resource(RT_ICON, id);
-            ASSERT_GE(image.size(), sizeof(BITMAPINFOHEADER));
             const auto* header = reinterpret_cast<const BITMAPINFOHEADER*>(image.data());
-            EXPECT_EQ(std::tuple(header->biWidth, header->biBitCount), std::tuple(LONG(size), WORD(32)));
-            auto* icon = static_cast<HICON>(
-                LoadImageW(module, MAKEINTRESOURCEW(1000 + key), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
-            ICONINFO info{};
-            BITMAP colour{};
-            ASSERT_TRUE(icon && GetIconInfo(icon, &info) && GetObjectW(info.hbmColor, sizeof colour, &colour));
-            EXPECT_EQ(std::tuple(colour.bmWidth, colour.bmHeight), std::tuple(LONG(size), LONG(size)));
-            DeleteObject(info.hbmColor), DeleteObject(info.hbmMask), DestroyIcon(icon);
+            EXPECT_TRUE(image.size() >= sizeof *header && header->biWidth == size && header->biBitCount == 32)
+                << "k" << key << " at " << size;
         }
     }
-    EXPECT_GT(keys, 0) << "no keys read from the icon table";
+    EXPECT_GT(keys, 50) << "the icon table was read";
 }
 
 }  // namespace
