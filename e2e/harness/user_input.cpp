@@ -2,7 +2,6 @@
 
 #include <sstream>
 
-#include "menu_hook.h"
 #include "orvane_process.h"
 #include "win_support.h"
 

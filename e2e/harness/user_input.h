@@ -10,6 +10,13 @@
 
 namespace orvane::e2e {
 
+// What the harness and menu_hook.dll, loaded into orvane.exe, share to read a
+// menu inside the program that owns it.
+inline constexpr wchar_t kReadMenuMessage[] = L"Orvane.Test.ReadMenu";
+inline constexpr wchar_t kMenuDumpName[] = L"Local\\Orvane.Test.MenuDump";
+inline constexpr wchar_t kMenuDoneName[] = L"Local\\Orvane.Test.MenuDone";
+inline constexpr std::size_t kMenuDumpChars = 1 << 16;
+
 struct MenuItem {
     int depth = 0;         // 0 for the bar's own items
     UINT id = 0;           // 0 for an item that opens a menu
