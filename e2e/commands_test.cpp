@@ -27,11 +27,6 @@ protected:
         orvane = std::make_unique<OrvaneProcess>(folder);
         return orvane->waitForMainWindow();
     }
-    std::vector<ProbeRecord> records(std::size_t count, const std::wstring& log) {
-        std::vector<ProbeRecord> found;
-        WaitFor([&] { return (found = ReadProbeLog(log)).size() >= count; }, 10s);
-        return found;
-    }
     std::vector<std::string> closeAndReadSettings() {
         orvane->close();
         EXPECT_EQ(orvane->waitForExit(), 0u);
@@ -67,11 +62,11 @@ TEST_F(Commands, ASuiteToolBesideTheProgramStartsInItsFolderUnderEitherFileBoxCa
     PressKeys(bar, {VK_MENU, 'F'});  // the File menu, then its item's access letter
     Sleep(300);
     PressKeys(bar, {'F'});
-    records(1, log);
+    ReadProbeLog(log, 1);
     ASSERT_TRUE(PickMenuItem(bar, L"File &box"));
-    records(2, log);
+    ReadProbeLog(log, 2);
     ASSERT_TRUE(PickMenuItem(bar, L"File bo&x"));
-    const auto started = records(3, log);
+    const auto started = ReadProbeLog(log, 3);
     ASSERT_EQ(started.size(), 3u);
     EXPECT_EQ(started[0].commandLine, "\"" + path(L"TS_Files.exe") + "\"");
     EXPECT_EQ(started[0].folder, Utf8(folder.path()));
@@ -84,7 +79,7 @@ TEST_F(Commands, OfficeProgramsAndWebmail) {
                      {L"My Office\\WINWORD.EXE", L"browser.exe"});
     ASSERT_NE(bar, nullptr);
     ASSERT_TRUE(PickMenuItem(bar, L"&Word"));  // its path has a blank and is not quoted
-    const auto word = records(1, folder.path() + L"\\My Office\\probe.log");
+    const auto word = ReadProbeLog(folder.path() + L"\\My Office\\probe.log", 1);
     ASSERT_EQ(word.size(), 1u);
     EXPECT_EQ(word[0].commandLine, path(L"My Office\\WINWORD.EXE"));
 
@@ -103,7 +98,7 @@ TEST_F(Commands, OfficeProgramsAndWebmail) {
     EXPECT_EQ(ControlText(box, IDC_BOX_TEXT), L"https://old.example.org");
     SetControlText(box, IDC_BOX_TEXT, L"https://mail.example.org/inbox");
     PressButton(box, IDOK);
-    const auto browser = records(1, folder.path() + L"\\probe.log");
+    const auto browser = ReadProbeLog(folder.path() + L"\\probe.log", 1);
     ASSERT_EQ(browser.size(), 1u);
     EXPECT_EQ(browser[0].commandLine, "\"" + path(L"browser.exe") + "\" https://mail.example.org/inbox");
     // The bar closed while the box is open: nothing starts, the address stays.
@@ -111,6 +106,30 @@ TEST_F(Commands, OfficeProgramsAndWebmail) {
     SetControlText(WaitForDialogTitled(orvane->id(), L"Orvane"), IDC_BOX_TEXT, L"https://unsent.example.org");
     EXPECT_EQ(closeAndReadSettings().at(3), "https://mail.example.org/inbox");
     EXPECT_FALSE(WaitFor([&] { return ReadProbeLog(folder.path() + L"\\probe.log").size() > 1; }, 2s));
+}
+
+TEST_F(Commands, BadSettingsGetTheirMessageOrTheirToolWithTheDocumentUnquoted) {
+    // A document with blanks, one deeper than MAX_PATH characters, and a folder named as Word.
+    const std::wstring deep = folder.path() + L"\\" + std::wstring(120, L'd') + L"\\" + std::wstring(120, L'e');
+    HWND bar = start({{3, Utf8(deep) + "\\deadlines.txt"}, {5, path(L"My Office\\a b.txt")}, {18, path(L"My Office")}},
+                     {L"TS_ScratchPad.exe", L"TS_Grid.exe"});
+    ASSERT_NE(bar, nullptr);
+    CreateDirectoryW((L"\\\\?\\" + deep.substr(0, deep.rfind(L'\\'))).c_str(), nullptr);
+    CreateDirectoryW((L"\\\\?\\" + deep).c_str(), nullptr);
+    ASSERT_TRUE(WriteBytes(L"\\\\?\\" + deep + L"\\deadlines.txt", "x") && WriteBytes(folder.path() + L"\\My Office\\a b.txt", "x"));
+    ASSERT_TRUE(PickMenuItem(bar, L"Load Addr&esses file"));
+    ReadProbeLog(folder.path() + L"\\probe.log", 1);  // one at a time keeps the log in order
+    ASSERT_TRUE(PickMenuItem(bar, L"Load &Deadlines file"));
+    const auto started = ReadProbeLog(folder.path() + L"\\probe.log", 2);
+    ASSERT_EQ(started.size(), 2u);
+    EXPECT_EQ(started[0].commandLine, "\"" + path(L"TS_Grid.exe") + "\" " + path(L"My Office\\a b.txt"));
+    EXPECT_EQ(started[1].commandLine, "\"" + path(L"TS_ScratchPad.exe") + "\" " + Utf8(deep) + "\\deadlines.txt");
+    ASSERT_TRUE(PickMenuItem(bar, L"&Word"));
+    HWND box = orvane->waitForDialog();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(MessageBoxText(box),
+              L"Cannot locate the following program/file:\r\n\r\nC:\\Program Files\\\\Microsoft Office\\Office\\WINWORD.EXE\r\n\r\n");
+    PressButton(box, IDOK);
 }
 
 TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {

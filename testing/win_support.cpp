@@ -100,15 +100,19 @@ HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t*
     return nullptr;
 }
 
-std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath) {
+std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath, std::size_t atLeast) {
     // A line per start: the command line, a tab, the working folder; one still being written has no line end.
-    const std::string log = ReadBytes(logPath);
     std::vector<ProbeRecord> records;
-    for (std::size_t at = 0, end; (end = log.find('\n', at)) != std::string::npos; at = end + 1) {
-        const std::size_t tab = log.rfind('\t', end);
-        if (tab != std::string::npos && tab >= at)
-            records.push_back({log.substr(at, tab - at), log.substr(tab + 1, end - tab - 1)});
-    }
+    WaitFor([&] {
+        const std::string log = ReadBytes(logPath);
+        records.clear();
+        for (std::size_t at = 0, end; (end = log.find('\n', at)) != std::string::npos; at = end + 1) {
+            const std::size_t tab = log.rfind('\t', end);
+            if (tab != std::string::npos && tab >= at)
+                records.push_back({log.substr(at, tab - at), log.substr(tab + 1, end - tab - 1)});
+        }
+        return records.size() >= atLeast;
+    }, std::chrono::seconds(10));
     return records;
 }
 

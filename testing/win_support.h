@@ -37,6 +37,7 @@ std::wstring TextOf(HWND window);
 struct ProbeRecord {
     std::string commandLine, folder;
 };
-std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath);
+// The starts in the probe's log, once there are at least this many (or ten seconds have passed).
+std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath, std::size_t atLeast = 0);
 
 }  // namespace orvane::testsupport
