@@ -7,7 +7,6 @@
 #include "commands.h"
 #include "fake_system.h"
 #include "menu.h"
-#include "recording_routines.h"
 
 namespace orvane {
 namespace {
@@ -83,6 +82,32 @@ TEST(Dispatch, EveryItemReachesACommandButTheDoNothingOnes) {
     EXPECT_EQ(FindDispatchRow(L"&A", twice)->command, Command::About) << "the first equal caption wins";
 }
 
+// The main window's routines as the commands call them, recorded by name.
+class RecordingRoutines : public MainWindowRoutines {
+public:
+    std::wstring typed, prompt;
+    std::vector<std::wstring> calls;
+    std::wstring inputBox(const std::wstring& p, const std::wstring& preset) override {
+        calls.push_back(L"input " + preset);
+        prompt = p;
+        return typed;
+    }
+    void showAbout() override { calls.push_back(L"about"); }
+    void showProgramLocations() override { calls.push_back(L"locations"); }
+    void showYourProgram() override { calls.push_back(L"your program"); }
+    void toggleDesktop() override { calls.push_back(L"desktop"); }
+    void exitProgram() override { calls.push_back(L"exit"); }
+    void useScreenWidth() override { calls.push_back(L"width"); }
+    void changeIconSize(int step) override { calls.push_back(L"size " + std::to_wstring(step)); }
+    void toggleIconStrip() override { calls.push_back(L"icons"); }
+    void toggleTopBottom() override { calls.push_back(L"top/bottom"); }
+    void chooseSkin() override { calls.push_back(L"skin"); }
+    void chooseMenuFont() override { calls.push_back(L"font"); }
+    void showCustomPrograms() override { calls.push_back(L"custom programs"); }
+    void showWebList() override { calls.push_back(L"web list"); }
+    void showWallpaper() override { calls.push_back(L"wallpaper"); }
+};
+
 struct Given {
     std::wstring Settings::*setting = nullptr;
     const wchar_t* value = L"";
@@ -112,7 +137,7 @@ struct Bar {
     }
     testing::FakeSystem sys;
     App app{sys};
-    testing::RecordingRoutines window;
+    RecordingRoutines window;
     MainCommands commands{app, window};
 };
 
