@@ -38,7 +38,7 @@ protected:
     std::unique_ptr<OrvaneProcess> orvane;
 };
 
-TEST_F(Commands, TheMenuShowsTheTableWithItsShortcuts) {
+TEST_F(Commands, TheMenuShowsTheTableAndItsDialogsWorkFromTheKeyboard) {
     HWND bar = start({});
     ASSERT_NE(bar, nullptr);
     // The desktop toggle may do nothing here, but the bar goes on answering.
@@ -53,6 +53,28 @@ TEST_F(Commands, TheMenuShowsTheTableWithItsShortcuts) {
         shown.push_back(std::wstring(item.depth ? L"item " : L"bar ") + (item.type & MFT_OWNERDRAW ? L"drawn " : L"") +
                         (item.type & MFT_SEPARATOR ? L"-" : item.text));
     EXPECT_EQ(shown, expected);
+
+    PressKeys(bar, {VK_F9});  // "Load your program"
+    HWND dialog = WaitForDialogTitled(orvane->id(), L"Load your program");
+    ASSERT_NE(dialog, nullptr);
+    SetControlText(dialog, IDC_PROGRAM, folder.path() + L"\\missing.exe");
+    PressButton(dialog, IDOK);
+    HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(MessageBoxText(box), L"Cannot find this program:\r\n\r\n" + folder.path() + L"\\missing.exe");
+    PressButton(box, IDOK);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(box); }, 5s));
+    EXPECT_TRUE(IsWindowVisible(dialog)) << "stays open";
+    PressKeys(dialog, {VK_ESCAPE});
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 5s));
+
+    ASSERT_TRUE(PickMenuItem(bar, L"&About this program"));
+    HWND about = WaitForDialogTitled(orvane->id(), L"About Orvane");
+    ASSERT_NE(about, nullptr);
+    EXPECT_EQ(ControlText(about, IDC_ABOUT_VERSION), L"Version 1.0.0");
+    PressKeys(about, {VK_ESCAPE});
+    EXPECT_TRUE(WaitFor([&] { return !IsWindow(about); }, 5s));
+    EXPECT_EQ(closeAndReadSettings().at(28), path(L"missing.exe"));
 }
 
 TEST_F(Commands, ASuiteToolBesideTheProgramStartsInItsFolderUnderEitherFileBoxCaption) {
@@ -151,32 +173,6 @@ TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
     ASSERT_EQ(settings.size(), 39u);
     EXPECT_EQ(settings[2], "C:\\Old\\Deadlines.vrt");
     EXPECT_EQ(settings[20], path(L"browser.exe"));
-}
-
-TEST_F(Commands, DialogsFromTheKeyboard) {
-    HWND bar = start({});
-    ASSERT_NE(bar, nullptr);
-    PressKeys(bar, {VK_F9});  // "Load your program"
-    HWND dialog = WaitForDialogTitled(orvane->id(), L"Load your program");
-    ASSERT_NE(dialog, nullptr);
-    SetControlText(dialog, IDC_PROGRAM, folder.path() + L"\\missing.exe");
-    PressButton(dialog, IDOK);
-    HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
-    ASSERT_NE(box, nullptr);
-    EXPECT_EQ(MessageBoxText(box), L"Cannot find this program:\r\n\r\n" + folder.path() + L"\\missing.exe");
-    PressButton(box, IDOK);
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(box); }, 5s));
-    EXPECT_TRUE(IsWindowVisible(dialog)) << "stays open";
-    PressKeys(dialog, {VK_ESCAPE});
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 5s));
-
-    ASSERT_TRUE(PickMenuItem(bar, L"&About this program"));
-    HWND about = WaitForDialogTitled(orvane->id(), L"About Orvane");
-    ASSERT_NE(about, nullptr);
-    EXPECT_EQ(ControlText(about, IDC_ABOUT_VERSION), L"Version 1.0.0");
-    PressKeys(about, {VK_ESCAPE});
-    EXPECT_TRUE(WaitFor([&] { return !IsWindow(about); }, 5s));
-    EXPECT_EQ(closeAndReadSettings().at(28), path(L"missing.exe"));
 }
 
 }  // namespace
