@@ -1,9 +1,7 @@
-// A recording stand-in for the system: files in memory, scripted answers, and
-// a journal of every call that changes the world.
+// A recording stand-in for the system: files in memory, scripted answers, a journal of the calls that act on the world.
 #pragma once
 
 #include <algorithm>
-#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -16,8 +14,8 @@ namespace orvane::testing {
 struct ShownMessage { std::wstring text, caption; MessageIcon icon; MessageButtons buttons; };
 struct StartedCommand { std::wstring commandLine; int showCode; };
 
-// 0x80..0x9F of Windows-1252, the code page as the system converts it; the five unassigned bytes map to the C1
-// controls of the same value, as the system's converter does.
+// 0x80..0x9F of Windows-1252, the code page as the system converts it: the five unassigned bytes map to the C1
+// controls of the same value, and a character the code page lacks is written as '?', as the system's converter does.
 inline constexpr char16_t kHigh1252[32] = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D,
     0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A,
@@ -34,7 +32,6 @@ inline std::string EncodeWindows1252(const std::wstring& text) {
     std::string bytes;
     for (wchar_t c : text) {
         const auto high = std::find(std::begin(kHigh1252), std::end(kHigh1252), c);
-        // '?' is what the system writes for a character the code page lacks.
         const bool latin1 = c < 0x80 || (c >= 0xA0 && c <= 0xFF);
         bytes += latin1 ? char(c) : high != std::end(kHigh1252) ? char(0x80 + (high - kHigh1252)) : '?';
     }
