@@ -27,8 +27,7 @@ constexpr std::uint32_t kTool = 0x80, kApp = 0x40000;  // WS_EX_TOOLWINDOW, WS_E
 // Written independently of the program's own table: the lines that hold text.
 const std::set<int> kTextLines = {3, 4, 5, 6, 14, 15, 16, 17, 18, 19, 20, 21, 28, 29, 30, 32, 33, 34, 35, 36};
 
-// The 39 lines of a settings file, each ending in CR LF: every line its own value ("text 3", "70"), or with
-// distinct=false the initial ones ("", "0"); then the given lines (1-based) replaced.
+// A settings file of 39 CR LF lines, each its own value ("text 3", "70") or else initial ("", "0"); then some changed.
 std::string File(bool distinct, const std::map<int, std::string>& changed = {}) {
     std::string text;
     for (int n = 1; n <= 39; ++n) {
@@ -111,11 +110,11 @@ TEST_F(Core, MissingOrLockedFileLeavesInitialValuesAndOnlyTheOldRuntimesErrorMin
     load(File(true));
     EXPECT_EQ(app.settings, Settings{});
     EXPECT_EQ(save(), File(true)) << "not overwritten";
-    sys.createError = 75;
-    SaveSettings(app);
-    sys.createError = -1;
     sys.errorDescription = L"Access is denied.";
-    SaveSettings(app);
+    for (const FileError error : {75, -1}) {
+        sys.createError = error;
+        SaveSettings(app);
+    }
     EXPECT_EQ(sys.messages.size(), 3u) << "two missing, then one failed save";
     EXPECT_EQ(sys.journal.back(),
               L"message Cannot save this file :\r\n\r\n" + kIni + kReason + L"\"Access is denied.\"\r\n");
@@ -144,13 +143,12 @@ TEST_F(Core, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
 
 TEST_F(Core, LineValuesAsReadAndWrittenBack) {
     // Blanks before a number, a numeric prefix, a hand-edited true, an empty number line, hexadecimal, halves to the
-    // even neighbour, text for a number, text keeping its blanks; then numbers too big for their type keep the old.
+    // even neighbour, text for a number; numbers too big for their type keep the old; text keeps its blanks.
     const std::tuple<int, std::string, std::string> cases[] = {
         {1, "   -45", "-45"}, {7, "  12pt", "12"}, {8, "1", "1"}, {9, "-1", "-1"}, {9, "", "0"},
         {12, "&HFF00&", "65280"}, {13, "12.5", "12"}, {22, "13.5", "14"}, {26, "none", "0"},
-        {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
         {13, "40000", "130"}, {38, "-32769", "380"}, {1, "99999999999", "10"}, {2, "2147483647", "2147483647"},
-        {13, "1e400", "130"}, {39, "&H100000000", "390"},
+        {13, "1e400", "130"}, {39, "&H100000000", "390"}, {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
     };
     for (const auto& [line, read, written] : cases) {
         load(File(true));  // every value its own before
@@ -211,11 +209,10 @@ TEST(Conversions, NumbersReadAsTheOldRuntimeDoesRoundingTrimmingAndLineSplitting
 
 // Launching.
 
-TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlank) {
+TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlankAndTheProgramIsSearchedFor) {
     const std::wstring program = L" C:\\Suite\\Tool.exe ";  // trimmed in a command with a document only
     sys.addFile(program);
-    sys.addFile(L"F:\\Drive_G\\Docs\\a.vrt");
-    sys.addFile(L"C:\\Drive_C\\Drive_G\\b.vrt");  // never looked for: a document in a drive folder is not scanned
+    for (const wchar_t* file : {L"F:\\Drive_G\\Docs\\a.vrt", L"C:\\Drive_C\\Drive_G\\b.vrt"}) sys.addFile(file);
     const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {  // current folder, document, command
         {L"C:\\Work", L"notes.txt", L"C:\\Suite\\Tool.exe C:\\Work\\notes.txt"},
         {L"D:\\", L"my notes.txt", L"C:\\Suite\\Tool.exe \"D:\\my notes.txt\""},
@@ -223,7 +220,7 @@ TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlank) {
         {L"C:\\Work", L" ", L" C:\\Suite\\Tool.exe "}, {L"C:\\Work", L"x", L"C:\\Suite\\Tool.exe x"},
         {L"C:\\Work", L"   ", L"C:\\Suite\\Tool.exe \"C:\\Work\\   \""},
         {L"C:\\Work", L"G:\\Docs\\a.vrt", L"C:\\Suite\\Tool.exe F:\\Drive_G\\Docs\\a.vrt"},
-        {L"C:\\Work", L"C:\\Drive_G\\b.vrt", L"C:\\Suite\\Tool.exe C:\\Drive_G\\b.vrt"},
+        {L"C:\\Work", L"C:\\Drive_G\\b.vrt", L"C:\\Suite\\Tool.exe C:\\Drive_G\\b.vrt"},  // not rescanned
         {L"C:\\Work", L"\"C:\\My Docs\\a.vrt\"", L"C:\\Suite\\Tool.exe \"C:\\My Docs\\a.vrt\""},
     };
     for (const auto& [current, doc, command] : cases) {
@@ -241,12 +238,10 @@ TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlank) {
     }
     EXPECT_EQ(app.LastLaunchResult, 100) << "a refused start or an oversized task keeps the previous result";
     EXPECT_EQ(sys.journal, (Lines{L"start " + program, L"start " + program}));
-}
-
-TEST_F(Core, SuiteProgramSearchOrder) {
     app.ProgramFolder = L"b:\\Orvane";  // a drive the scan does not reach
     // Each file added wins over the ones before it; the scan runs from C to the six characters after Z.
     const std::wstring stored = L"G:\\T\\Tool.exe";
+    sys.journal.clear();
     launch(stored, L"a.txt");
     EXPECT_EQ(sys.journal, (Lines{kNotFound + stored + L"\r\n\r\n", L"cursor"})) << "found nowhere";
     EXPECT_EQ(sys.messages[0].caption, L"Orvane");
@@ -292,8 +287,7 @@ TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNa
     sys.addFile(app.settings.CustomBrowser);
     const std::pair<const wchar_t*, std::wstring> cases[] = {
         {L"", L""}, {L"https://mail.example.org/?a=1", L" https://mail.example.org/?a=1"},
-        {L"C:\\My Pages\\index.html", L" \"C:\\My Pages\\index.html\""},
-        {L"\"quoted already\"", L" \"\"quoted already\"\""},
+        {L"C:\\My Pages\\index.html", L" \"C:\\My Pages\\index.html\""}, {L"\"in quotes\"", L" \"\"in quotes\"\""},
     };
     for (const auto& [argument, tail] : cases) {
         sys.journal.clear();
@@ -386,23 +380,7 @@ TEST_F(Core, SecondCopyBringsTheFirstForwardAndDoesNothingElse) {
 
 // The helpers the above are built on.
 
-TEST_F(Core, DeletingSkipsEmptyAndMissingNamesAndAFileErrorNamesTheOperationAndTheReason) {
-    sys.addFile(L"C:\\x.txt");
-    DeleteFileIfPresent(app, L"");
-    DeleteFileIfPresent(app, L"C:\\y.txt");
-    DeleteFileIfPresent(app, L"C:\\x.txt");
-    ReportFileError(app, L"C:\\a.lst", L"");
-    ReportFileError(app, L"   ");
-    EXPECT_EQ(sys.journal, (Lines{L"delete C:\\x.txt", L"beep",
-                                  L"message Cannot delete this file :\r\n\r\nC:\\a.lst" + kReason + L"(unknown)\r\n",
-                                  L"beep",
-                                  L"message Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" +
-                                      kReason + L"(unknown)\r\n"}));
-    EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
-    EXPECT_TRUE(sys.files.empty());
-}
-
-TEST_F(Core, OsVersionNamesFollowTheProgramsOwnLabelsAndSystemFoldersGetABackslash) {
+TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
     const std::tuple<int, int, std::wstring> names[] = {
         {10, 0, L""},     {6, 3, L"Win 7 + later"}, {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"},
         {6, 0, L"Vista"}, {5, 2, L"Win XP"},         {5, 0, L"Win XP"},        {4, 10, L"Win 2000"}, {3, 51, L""},
@@ -418,6 +396,20 @@ TEST_F(Core, OsVersionNamesFollowTheProgramsOwnLabelsAndSystemFoldersGetABacksla
     sys.specialFolders[5] = std::wstring(L"C:\\Users\\ann\\Documents\0\0\0", 26);
     FindSystemFolders(app);
     EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"D:\\Programs\\|C:\\Users\\ann\\Documents\\");
+    // Deleting skips empty and missing names; a file error names the operation and the reason.
+    sys.addFile(L"C:\\x.txt");
+    DeleteFileIfPresent(app, L"");
+    DeleteFileIfPresent(app, L"C:\\y.txt");
+    DeleteFileIfPresent(app, L"C:\\x.txt");
+    ReportFileError(app, L"C:\\a.lst", L"");
+    ReportFileError(app, L"   ");
+    EXPECT_EQ(sys.journal, (Lines{L"delete C:\\x.txt", L"beep",
+                                  L"message Cannot delete this file :\r\n\r\nC:\\a.lst" + kReason + L"(unknown)\r\n",
+                                  L"beep",
+                                  L"message Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" +
+                                      kReason + L"(unknown)\r\n"}));
+    EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
+    EXPECT_TRUE(sys.files.empty());
     app.OsVersionName = L"before";
     sys.version = {10, 0};
     DetectOsVersion(app);
@@ -428,7 +420,7 @@ TEST_F(Core, OsVersionNamesFollowTheProgramsOwnLabelsAndSystemFoldersGetABacksla
 // Each step adds a file and shows which path now wins: the later the step, the earlier the place in the search order.
 struct Step { const wchar_t *added, *path, *expected; };  // added: nothing for the first step
 
-TEST_F(Core, PathPiecesAndTheDocumentPathSearchOrder) {
+TEST_F(Core, PathPiecesTheDocumentPathSearchOrderAndRelocation) {
     const std::pair<std::wstring, std::wstring> backslashed[] = {
         {L"C:\\Data ", L"C:\\Data\\"}, {L"C:\\Data/", L"C:\\Data/"},  {L"C:\\Data\\", L"C:\\Data\\"},
         {L" C:\\Data", L" C:\\Data\\"}, {L"C:\\Data\\  ", L"C:\\Data\\  "}, {L"", L"\\"},
@@ -453,27 +445,7 @@ TEST_F(Core, PathPiecesAndTheDocumentPathSearchOrder) {
         EXPECT_EQ(ResolveDocumentPath(app, step.path), step.expected) << (step.added ? step.added : L"-");
     }
     EXPECT_EQ(TryDriveLetters(app, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
-}
-
-TEST_F(Core, SuitePathSearchOrder) {
-    const wchar_t* stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
-    const Step steps[] = {
-        {nullptr, stored, L"C:\\Orvane\\X.exe"},  // found nowhere: beside this program
-        {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
-        {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"},
-        {stored, stored, stored},
-        {L"C:\\Orvane\\X.exe", L"D:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"},
-        {nullptr, L"", L""},
-    };
-    for (const Step& step : steps) {
-        if (step.added) sys.addFile(step.added);
-        std::wstring path = step.path;
-        EXPECT_EQ(&ResolveSuitePath(app, path), &path);
-        EXPECT_EQ(path, step.expected) << (step.added ? step.added : L"-");
-    }
-}
-
-TEST_F(Core, RelocateMapsBetweenDriveFoldersAndDrivesAndProgramFilesSwapBothWaysInExactCase) {
+    // Relocating maps between drive folders and drives; Program Files folders swap both ways, in exact case.
     EXPECT_EQ(RelocateDrivePath(app, L""), L"");
     EXPECT_EQ(RelocateDrivePath(app, L"G:\\TellmarkSet\\X\\X.exe"), L"C:\\Drive_G\\TellmarkSet\\X\\X.exe");
     sys.addFile(L"D:\\Drive_G\\TellmarkSet\\X\\X.exe");
@@ -487,6 +459,22 @@ TEST_F(Core, RelocateMapsBetweenDriveFoldersAndDrivesAndProgramFilesSwapBothWays
         {L"D:\\C:\\Program Files\\x", L"C:\\Program Files (x86)\\es\\x"},  // the cut assumes the folder stands first
     };
     for (auto [path, expected] : swaps) EXPECT_EQ(SwapProgramFilesFolder(path), expected);
+}
+
+TEST_F(Core, SuitePathSearchOrder) {
+    const wchar_t* stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
+    const Step steps[] = {
+        {nullptr, stored, L"C:\\Orvane\\X.exe"},  // found nowhere: beside this program
+        {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
+        {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"}, {stored, stored, stored},
+        {L"C:\\Orvane\\X.exe", L"D:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"}, {nullptr, L"", L""},
+    };
+    for (const Step& step : steps) {
+        if (step.added) sys.addFile(step.added);
+        std::wstring path = step.path;
+        EXPECT_EQ(&ResolveSuitePath(app, path), &path);
+        EXPECT_EQ(path, step.expected) << (step.added ? step.added : L"-");
+    }
 }
 
 }  // namespace

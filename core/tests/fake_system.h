@@ -31,9 +31,8 @@ inline std::wstring DecodeWindows1252(const std::string& bytes) {
 inline std::string EncodeWindows1252(const std::wstring& text) {
     std::string bytes;
     for (wchar_t c : text) {
-        const auto high = std::find(std::begin(kHigh1252), std::end(kHigh1252), c);
-        const bool latin1 = c < 0x80 || (c >= 0xA0 && c <= 0xFF);
-        bytes += latin1 ? char(c) : high != std::end(kHigh1252) ? char(0x80 + (high - kHigh1252)) : '?';
+        const auto high = std::ranges::find(kHigh1252, c) - std::begin(kHigh1252);
+        bytes += (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) ? char(c) : high < 32 ? char(0x80 + high) : '?';
     }
     return bytes;
 }
