@@ -1,7 +1,7 @@
-// A recording stand-in for the system: files in memory, scripted answers, and
-// a journal of every call that changes the world.
+// A recording stand-in for the system: files in memory, scripted answers, a journal of the calls that act on the world.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -14,9 +14,28 @@ namespace orvane::testing {
 struct ShownMessage { std::wstring text, caption; MessageIcon icon; MessageButtons buttons; };
 struct StartedCommand { std::wstring commandLine; int showCode; };
 
-// The Windows-1252 code page, as the system converts it.
-std::wstring DecodeWindows1252(const std::string& bytes);
-std::string EncodeWindows1252(const std::wstring& text);
+// 0x80..0x9F of Windows-1252, the code page as the system converts it: the five unassigned bytes map to the C1
+// controls of the same value, and a character the code page lacks is written as '?', as the system's converter does.
+inline constexpr char16_t kHigh1252[32] = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D,
+    0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A,
+    0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+inline std::wstring DecodeWindows1252(const std::string& bytes) {
+    std::wstring text;
+    for (unsigned char c : bytes) text += (c >= 0x80 && c < 0xA0) ? wchar_t(kHigh1252[c - 0x80]) : wchar_t(c);
+    return text;
+}
+
+inline std::string EncodeWindows1252(const std::wstring& text) {
+    std::string bytes;
+    for (wchar_t c : text) {
+        const auto high = std::ranges::find(kHigh1252, c) - std::begin(kHigh1252);
+        bytes += (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) ? char(c) : high < 32 ? char(0x80 + high) : '?';
+    }
+    return bytes;
+}
 
 class FakeSystem : public System {
     using S = const std::wstring&;

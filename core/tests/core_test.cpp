@@ -1,0 +1,481 @@
+// The portable core on the recording fake: the settings file, launching, start-up and the helpers they share.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "app.h"
+#include "conversions.h"
+#include "fake_system.h"
+#include "helpers.h"
+#include "launch.h"
+#include "lifecycle.h"
+#include "paths.h"
+#include "reports.h"
+#include "settings.h"
+#include "winlist.h"
+
+namespace orvane {
+namespace {
+
+using Lines = std::vector<std::wstring>;
+const std::wstring kIni = L"C:\\Orvane\\Orvane.ini";
+const std::wstring kNotFound = L"message Cannot locate the following program/file:\r\n\r\n";
+const std::wstring kReason = L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n";
+constexpr std::uint32_t kTool = 0x80, kApp = 0x40000;  // WS_EX_TOOLWINDOW, WS_EX_APPWINDOW
+// Written independently of the program's own table: the lines that hold text.
+const std::set<int> kTextLines = {3, 4, 5, 6, 14, 15, 16, 17, 18, 19, 20, 21, 28, 29, 30, 32, 33, 34, 35, 36};
+
+// A settings file of 39 CR LF lines, each its own value ("text 3", "70") or else initial ("", "0"); then some changed.
+std::string File(bool distinct, const std::map<int, std::string>& changed = {}) {
+    std::string text;
+    for (int n = 1; n <= 39; ++n) {
+        const std::string own = kTextLines.count(n) ? (distinct ? "text " + std::to_string(n) : "")
+                                                    : std::to_string(distinct ? n * 10 : 0);
+        text += (changed.count(n) ? changed.at(n) : own) + "\r\n";
+    }
+    return text;
+}
+
+// A window that takes sizes in whole pixels of 15 twips, as at 96 DPI, and records what it is told.
+class FakeHost : public MainWindowHost {
+    using S = const std::wstring&;
+
+public:
+    bool earlierInstance = false;
+    WindowRef earlierWindow = 0;  // what a search for the application window finds
+    std::wstring title = L"Orvane";
+    TwipsRect rect, area{0, 0, 19200, 11520};
+    Lines calls;
+
+    bool earlierInstanceRunning() override { return earlierInstance; }
+    std::wstring programTitle() override { return title; }
+    void setProgramTitle(S t) override { calls.push_back(L"title " + (title = t)); }
+    WindowRef findApplicationWindow(S t) override { calls.push_back(L"find " + t); return earlierWindow; }
+    void endProcessNow() override { calls.push_back(L"end"); }
+    void initCommonControls() override { calls.push_back(L"initCommonControls"); }
+    WindowRef handle() override { return 500; }
+    void set(std::int32_t& e, std::wstring name, int v) { calls.push_back(name + std::to_wstring(v)); e = v / 15 * 15; }
+    void setTop(std::int32_t v) override { set(rect.top, L"top ", v); }
+    void setLeft(std::int32_t v) override { set(rect.left, L"left ", v); }
+    void setWidth(std::int32_t v) override { set(rect.width, L"width ", v); }
+    void setHeight(std::int32_t v) override { set(rect.height, L"height ", v); }
+    TwipsRect geometry() override { return rect; }
+    TwipsRect workArea() override { return area; }
+    std::int32_t backColor() override { return 0xF0F0F0; }
+    void layIconStrip() override { calls.push_back(L"iconStrip"); }
+    void applySkin(S skin) override { calls.push_back(L"skin " + skin); }
+    void buildMenuBar() override { calls.push_back(L"menuBar"); }
+};
+
+class Core : public ::testing::Test {
+protected:
+    Core() { app.ProgramFolder = L"C:\\Orvane"; app.MainWindowRef = 1; }
+    void load(const std::string& bytes) { app.SettingsFilePath = kIni; sys.addFile(kIni, bytes); LoadSettings(app); }
+    const std::string& save() { SaveSettings(app); return sys.files[kIni]; }
+    // Starts the tool with the document (kept for a look afterwards); the program path as located.
+    std::wstring launch(std::wstring program, std::wstring doc = L"") {
+        LaunchSuiteProgram(app, program, document = doc);
+        return program;
+    }
+    // A fresh start on a settings file with these lines, the others initial; no file when none are given.
+    LoadOutcome start(const std::map<int, std::string>& lines = {}) {
+        if (!lines.empty()) sys.addFile(kIni, File(false, lines));
+        app.settings = {};
+        host.calls.clear();
+        return LoadMainWindow(app, host, state);
+    }
+    testing::FakeSystem sys;
+    App app{sys};
+    std::wstring document;
+    FakeHost host;
+    MainWindowState state;
+};
+
+TEST_F(Core, MissingOrLockedFileLeavesInitialValuesAndOnlyTheOldRuntimesErrorMinusOneIsReportedOnSaving) {
+    LoadSettings(app);
+    app.SettingsFilePath = kIni;
+    LoadSettings(app);
+    const auto& m = sys.messages.at(0);
+    EXPECT_EQ(std::tie(m.caption, m.icon, m.buttons), std::tuple(L"Orvane", MessageIcon::Critical, MessageButtons::Ok));
+    EXPECT_EQ(app.settings, Settings{});
+    sys.addFile(kIni);
+    EXPECT_EQ(save(), File(false)) << "initial values are 39 lines of zero and empty";
+    EXPECT_EQ(sys.journal, (Lines{kNotFound + L"( Filename empty! )\r\n\r\n", L"cursor", kNotFound + kIni + L"\r\n\r\n",
+                                  L"cursor", L"delete " + kIni, L"write " + kIni}))
+        << "the old file replaced by a fresh one";
+    // A locked file is read as nothing; on saving, only the old runtime's error -1 is reported.
+    sys.lockedFiles.insert(kIni);
+    load(File(true));
+    EXPECT_EQ(app.settings, Settings{});
+    EXPECT_EQ(save(), File(true)) << "not overwritten";
+    sys.errorDescription = L"Access is denied.";
+    for (const FileError error : {75, -1}) {
+        sys.createError = error;
+        SaveSettings(app);
+    }
+    EXPECT_EQ(sys.messages.size(), 3u) << "two missing, then one failed save";
+    EXPECT_EQ(sys.journal.back(),
+              L"message Cannot save this file :\r\n\r\n" + kIni + kReason + L"\"Access is denied.\"\r\n");
+}
+
+TEST_F(Core, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
+    load(File(true) + "extra 40\r\nextra 41\r\n");  // lines past 39 are ignored, not kept
+    const Settings& s = app.settings;
+    EXPECT_EQ(std::tie(s.MainTop, s.MainLeft, s.ListFontSize, s.ListFontBold, s.ReservedLine9, s.MainWidth,
+                       s.MainHeight, s.MainBackColor, s.IconSize, s.CustomTop, s.CustomLeft, s.CustomHeight,
+                       s.CustomWidth, s.CustomGrid1Row, s.CustomGrid2Row, s.WallpaperStretch, s.WebBrowserChoice,
+                       s.ExpandedLayout, s.ExpandedWidth),
+              std::tuple(10, 20, 70, 80, 90, 100, 110, 120, 130, 220, 230, 240, 250, 260, 270, 310, 370, 380, 390));
+    Lines expected;  // the text lines in file order
+    for (int n : kTextLines) expected.push_back(L"text " + std::to_wstring(n));
+    EXPECT_EQ((Lines{s.DeadlinesFile, s.WebmailUrl, s.AddressesFile, s.ListFontName, s.AccessPath, s.PublisherPath,
+                     s.ExcelPath, s.PowerPointPath, s.WordPath, s.SkinFile, s.SkinFolder, s.CustomBrowser,
+                     s.CustomListFile, s.YourProgram, s.WallpaperFile, s.ReturnPassword, s.WebListFile, s.WebBrowser1,
+                     s.WebBrowser2, s.WebBrowser3}), expected);
+    EXPECT_EQ(save(), File(true));
+
+    load("15\r\n30\r\nC:\\Deadlines.vrt");  // a short file keeps the rest; the last line needs no line end
+    EXPECT_EQ(save(), File(true, {{1, "15"}, {2, "30"}, {3, "C:\\Deadlines.vrt"}}));
+    EXPECT_TRUE(sys.messages.empty());
+}
+
+TEST_F(Core, LineValuesAsReadAndWrittenBack) {
+    // Blanks before a number, a numeric prefix, a hand-edited true, an empty number line, hexadecimal, halves to the
+    // even neighbour, text for a number; numbers too big for their type keep the old; text keeps its blanks.
+    const std::tuple<int, std::string, std::string> cases[] = {
+        {1, "   -45", "-45"}, {7, "  12pt", "12"}, {8, "1", "1"}, {9, "-1", "-1"}, {9, "", "0"},
+        {12, "&HFF00&", "65280"}, {13, "12.5", "12"}, {22, "13.5", "14"}, {26, "none", "0"},
+        {13, "40000", "130"}, {38, "-32769", "380"}, {1, "99999999999", "10"}, {2, "2147483647", "2147483647"},
+        {13, "1e400", "130"}, {39, "&H100000000", "390"}, {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
+    };
+    for (const auto& [line, read, written] : cases) {
+        load(File(true));  // every value its own before
+        load(File(true, {{line, read}}));
+        EXPECT_EQ(save(), File(true, {{line, written}})) << read;
+    }
+}
+
+TEST_F(Core, AnsiTextSurvivesForeignCharactersBecomeQuestionMarksAndGarbageOrHugeFilesAreTakenInStride) {
+    load(File(true, {{3, "C:\\D\xFCsseldorf\\\x80uro.vrt"}}));  // ü and € in Windows-1252
+    EXPECT_EQ(app.settings.DeadlinesFile, L"C:\\D\u00FCsseldorf\\\u20ACuro.vrt");
+    app.settings.AddressesFile = L"C:\\\u0141\u00F3d\u017A.vrt";  // Ł and ź have no place in the code page
+    EXPECT_EQ(save(), File(true, {{3, "C:\\D\xFCsseldorf\\\x80uro.vrt"}, {5, "C:\\?\xF3" "d?.vrt"}}));
+
+    std::string garbage;
+    for (int i = 0; i < 4096; ++i) garbage += static_cast<char>((i * 7919) % 256);
+    load(garbage);
+    EXPECT_EQ(std::ranges::count(save(), '\n'), 39);
+
+    const std::string longLine(1 << 20, 'a');
+    std::string huge = File(true, {{3, longLine}});
+    while (huge.size() < 10u << 20) huge += longLine + "\r\n";
+    load(huge);
+    EXPECT_EQ(save(), File(true, {{3, longLine}})) << "read up to line 39, the long line whole";
+}
+
+// The conversions the file format depends on.
+
+TEST(Conversions, NumbersReadAsTheOldRuntimeDoesRoundingTrimmingAndLineSplitting) {
+    const std::pair<const wchar_t*, std::optional<double>> cases[] = {
+        {L"1440", 1440}, {L"   -15", -15}, {L"\t 7", 7}, {L"+3", 3}, {L"12abc", 12}, {L"12.5", 12.5}, {L".5", 0.5},
+        {L"5.", 5}, {L"1e3", 1000}, {L"2D2", 200}, {L"1e", 1}, {L"1e+x", 1}, {L"1 2", 1}, {L"1,000", 1},
+        {L"1e400", std::nullopt},
+        // Without a number: zero.
+        {L"", 0}, {L"abc", 0}, {L"--5", 0}, {L".", 0}, {L"- 5", 0}, {L"&Q1", 0}, {L"&H", 0},
+        // Hexadecimal: four digits or fewer are a 16-bit pattern unless "&" marks a 32-bit literal.
+        {L"&H10", 16}, {L"&hff", 255}, {L" &H7FFF", 32767}, {L"&HFFFF", -1}, {L"&HFFFF&", 65535}, {L"&H10000", 65536},
+        {L"&HFFFFFFFF", -1}, {L"&HFFG", 255}, {L"&H100000000", std::nullopt},
+    };
+    for (const auto& [text, expected] : cases) EXPECT_EQ(NumericPrefix(text), expected) << '"' << text << '"';
+    // Rounding takes halves to even and checks the range after rounding.
+    const std::tuple<double, std::optional<std::int16_t>, std::optional<std::int32_t>> rounded[] = {
+        {12.5, 12, 12}, {13.5, 14, 14}, {-2.5, -2, -2}, {2.6, 3, 3}, {0.5, 0, 0}, {32767.4, 32767, 32767},
+        {32767.5, std::nullopt, 32768}, {-32768.5, -32768, -32768}, {-32769.0, std::nullopt, -32769},
+        {2147483647.0, std::nullopt, 2147483647}, {2147483648.0, std::nullopt, std::nullopt},
+        {-2147483648.0, std::nullopt, INT32_MIN},
+    };
+    for (const auto& [value, to16, to32] : rounded)
+        EXPECT_EQ(std::pair(RoundToInt16(value), RoundToInt32(value)), std::pair(to16, to32)) << value;
+    // Trimming removes blanks but not tabs; splitting takes every line end, up to the limit.
+    EXPECT_EQ(TrimBlanks(L"  a b  ") + L"|" + TrimBlanks(L"\ta\t") + L"|" + TrimBlanks(L"   ") + L"|" +
+                  TrimLeadingBlanks(L"  x ") + L"|" + TrimTrailingBlanks(L"  x "), L"a b|\ta\t||x |  x");
+    using Views = std::vector<std::wstring_view>;
+    EXPECT_EQ(SplitLines(L"a\r\nb\rc\nd\r\n\r\ne\r\n", 10), (Views{L"a", L"b", L"c", L"d", L"", L"e"}));
+    EXPECT_EQ(SplitLines(L"a\nb\nc", 2), (Views{L"a", L"b"}));
+    EXPECT_TRUE(SplitLines(L"", 5).empty());
+}
+
+// Launching.
+
+TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlankAndTheProgramIsSearchedFor) {
+    const std::wstring program = L" C:\\Suite\\Tool.exe ";  // trimmed in a command with a document only
+    sys.addFile(program);
+    for (const wchar_t* file : {L"F:\\Drive_G\\Docs\\a.vrt", L"C:\\Drive_C\\Drive_G\\b.vrt"}) sys.addFile(file);
+    const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {  // current folder, document, command
+        {L"C:\\Work", L"notes.txt", L"C:\\Suite\\Tool.exe C:\\Work\\notes.txt"},
+        {L"D:\\", L"my notes.txt", L"C:\\Suite\\Tool.exe \"D:\\my notes.txt\""},
+        // The program alone, as given; blanks made a path before the blank test; a one-letter document left alone.
+        {L"C:\\Work", L" ", L" C:\\Suite\\Tool.exe "}, {L"C:\\Work", L"x", L"C:\\Suite\\Tool.exe x"},
+        {L"C:\\Work", L"   ", L"C:\\Suite\\Tool.exe \"C:\\Work\\   \""},
+        {L"C:\\Work", L"G:\\Docs\\a.vrt", L"C:\\Suite\\Tool.exe F:\\Drive_G\\Docs\\a.vrt"},
+        {L"C:\\Work", L"C:\\Drive_G\\b.vrt", L"C:\\Suite\\Tool.exe C:\\Drive_G\\b.vrt"},  // not rescanned
+        {L"C:\\Work", L"\"C:\\My Docs\\a.vrt\"", L"C:\\Suite\\Tool.exe \"C:\\My Docs\\a.vrt\""},
+    };
+    for (const auto& [current, doc, command] : cases) {
+        sys.current = current;
+        launch(program, doc);
+        EXPECT_EQ(sys.started.back().commandLine, command) << doc;
+    }
+    EXPECT_EQ(document, L"\"C:\\My Docs\\a.vrt\"") << "unquoted, then quoted again for its blank";
+    EXPECT_EQ(std::pair(sys.started.back().showCode, app.LastLaunchResult), std::pair(1, std::int16_t(100)));
+    EXPECT_TRUE(sys.messages.empty());
+    sys.journal.clear();
+    for (const auto task : {std::optional<long long>(), std::optional<long long>(70000)}) {  // 70000 needs 17 bits
+        sys.nextTask = task;
+        launch(program);
+    }
+    EXPECT_EQ(app.LastLaunchResult, 100) << "a refused start or an oversized task keeps the previous result";
+    EXPECT_EQ(sys.journal, (Lines{L"start " + program, L"start " + program}));
+    app.ProgramFolder = L"b:\\Orvane";  // a drive the scan does not reach
+    // Each file added wins over the ones before it; the scan runs from C to the six characters after Z.
+    const std::wstring stored = L"G:\\T\\Tool.exe";
+    sys.journal.clear();
+    launch(stored, L"a.txt");
+    EXPECT_EQ(sys.journal, (Lines{kNotFound + stored + L"\r\n\r\n", L"cursor"})) << "found nowhere";
+    EXPECT_EQ(sys.messages[0].caption, L"Orvane");
+    for (const std::wstring found : {L"b:\\Orvane\\Tool.exe", L"b:\\Drive_G\\T\\Tool.exe", L"`:\\Drive_G\\T\\Tool.exe",
+                                     L"D:\\Drive_G\\T\\Tool.exe", L"C:\\Drive_G\\T\\Tool.exe",
+                                     L"C:\\TellmarkSet\\Tool.exe", stored.c_str()}) {
+        sys.addFile(found);
+        EXPECT_EQ(launch(stored), found);
+        EXPECT_EQ(sys.started.back().commandLine, found);
+    }
+}
+
+TEST_F(Core, WindowListKeepsOnlyTheWindowsATaskBarWouldShowInTheirOrderAndARunningSuiteProgramIsBroughtForward) {
+    // handle, visible, parent, owner, extended style, title
+    sys.windows = {{2, true, false, false, 0, L"Editor"},  {1, true, false, false, 0, L"Orvane"},
+                   {3, false, false, false, 0, L"Hidden"},  {4, true, true, false, 0, L"Child"},
+                   {5, true, false, true, 0, L"Owned"},     {6, true, false, true, kApp, L"Owned app"},
+                   {7, true, false, false, kTool, L"Tool"}, {8, true, false, false, kTool | kApp, L"Tool app"},
+                   {9, true, false, true, kTool | kApp, L"Owned tool app"},
+                   {10, true, false, false, 0, L""},        {11, true, false, false, 0, L"Editor"}};
+    app.windowList = {{L"stale", 99}};
+    RefreshWindowList(app);
+    std::vector<std::pair<std::wstring, WindowRef>> listed;
+    for (const auto& entry : app.windowList) listed.emplace_back(entry.title, entry.handle);
+    EXPECT_EQ(listed, (decltype(listed){{L"Editor", 2}, {L"Owned app", 6}, {L"Owned tool app", 9}, {L"Editor", 11}}));
+    EXPECT_EQ(FindListedWindow(app.windowList, L"Editor"), 2u);
+    EXPECT_EQ(FindListedWindow(app.windowList, L"editor"), 0u);
+    // A running suite program is brought forward by its exact title.
+    sys.addFile(L"C:\\Suite\\Tool.exe");
+    sys.windows = {{5, true, false, false, 0, L"tool"}, {6, true, false, false, 0, L"Tool.exe"},
+                   {7, true, false, false, 0, L"Tool"}, {8, true, false, false, 0, L"Tool"}};
+    launch(L"C:\\Suite\\Tool.exe", L"a.txt");
+    EXPECT_EQ(sys.journal, (Lines{L"message Program running already", L"foreground 7"})) << "and nothing started";
+    EXPECT_EQ(std::tie(sys.messages[0].caption, sys.messages[0].icon), std::tuple(L"Orvane", MessageIcon::None));
+    EXPECT_EQ(app.LastLaunchResult, 1);
+}
+
+TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNameTheFilesFolder) {
+    app.settings.CustomBrowser = L"C:\\Web\\web.exe";
+    LoadCustomBrowser(app, L"x");
+    EXPECT_EQ(sys.journal, (Lines{kNotFound + L"C:\\Web\\web.exe\r\n\r\n", L"cursor"})) << "missing";
+    EXPECT_EQ(sys.messages[0].caption, L"Custom Browser");
+    sys.addFile(app.settings.CustomBrowser);
+    const std::pair<const wchar_t*, std::wstring> cases[] = {
+        {L"", L""}, {L"https://mail.example.org/?a=1", L" https://mail.example.org/?a=1"},
+        {L"C:\\My Pages\\index.html", L" \"C:\\My Pages\\index.html\""}, {L"\"in quotes\"", L" \"\"in quotes\"\""},
+    };
+    for (const auto& [argument, tail] : cases) {
+        sys.journal.clear();
+        LoadCustomBrowser(app, argument);
+        LaunchWithArgument(app, L"C:\\P\\p.exe", argument);
+        EXPECT_EQ(sys.journal,
+                  (Lines{L"events", L"start C:\\Web\\web.exe" + tail, L"events", L"start C:\\P\\p.exe" + tail}));
+    }
+    EXPECT_EQ(app.LaunchPath, L"C:\\Web\\web.exe");
+    // Shell requests name the file's folder; exploring opens the current folder.
+    EXPECT_TRUE(ExecuteProcess(app, L"C:\\Tools\\a.exe", 77, 1, L"-x", false));
+    sys.shellAccepts = false;
+    EXPECT_FALSE(ExecuteProcess(app, L"a.exe", 0, 3, L"", true));
+    EXPECT_FALSE(ExecuteProcess(app, L" ", 0, 1, L"", false)) << "no file, no request";
+    using Request = std::tuple<WindowRef, std::wstring, std::wstring, std::wstring, std::wstring, int>;
+    std::vector<Request> requests;
+    for (const auto& r : sys.shellRequests)
+        requests.emplace_back(r.owner, r.verb, r.file, r.parameters, r.directory, r.showCode);
+    EXPECT_EQ(requests, (std::vector<Request>{{77, L"Open", L"C:\\Tools\\a.exe", L"-x", L"C:\\Tools", 1},
+                                              {0, L"runas", L"a.exe", L"", L"", 3}}));
+    sys.current = L"C:\\Some Folder";
+    ExploreFolder(app, 12);
+    EXPECT_EQ(sys.journal.back(), L"verb explore C:\\Some Folder in C:\\Some Folder owner 12 show 1");
+    EXPECT_EQ(app.LastLaunchResult, 42);
+}
+
+// Start-up and unload.
+
+TEST_F(Core, FirstStartOpensTheSingleStripBarThoughACopyWithoutAWindowIsReportedAndUnloadWritesTheSettings) {
+    sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"C:\\Program Files";
+    sys.specialFolders[5] = L"C:\\users\\ann\\Documents";
+    host.earlierInstance = true;
+    EXPECT_EQ(start(), LoadOutcome::Running);
+    EXPECT_EQ(std::tie(app.SettingsFilePath, app.ListFileFilter, app.OsVersionName, app.ProgramFilesFolder,
+                       app.DocumentsFolder, app.settings.SkinFile, app.MainWindowRef),
+              std::tuple(kIni, L"List files (*.lst)|*.lst|All files (*.*)|*.*", L"Win 7 + later",
+                         L"C:\\Program Files\\", L"C:\\users\\ann\\Documents\\", L"C:\\Orvane\\Skin_Alba.bmp", 500u));
+    EXPECT_EQ(std::pair(state.systemIsVersion6OrLater, state.atTop), std::pair(true, true));
+    EXPECT_EQ(host.calls, (Lines{L"title Redundant instance", L"find Orvane", L"title Orvane", L"initCommonControls",
+                                 L"top 0", L"left 0", L"width 0", L"height 0", L"iconStrip",
+                                 L"skin C:\\Orvane\\Skin_Alba.bmp", L"menuBar", L"height 1020", L"width 16060"}));
+    EXPECT_EQ(host.rect.width, 16050) << "a whole number of pixels";
+
+    host.rect = {150, 300, 16065, 1020};  // the user moved it; unload records it and writes the settings once
+    UnloadMainWindow(app, host);
+    EXPECT_EQ(sys.journal, (Lines{kNotFound + kIni + L"\r\n\r\n", L"cursor", L"write " + kIni}));
+    EXPECT_EQ(sys.files[kIni], File(false, {{1, "300"}, {2, "150"}, {10, "16065"}, {11, "1020"}, {12, "15790320"},
+                                            {19, "C:\\Orvane\\Skin_Alba.bmp"}}));
+}
+
+TEST_F(Core, TheWindowIsPlacedFromTheSettingsAtTopOnlyWhereItsTopMeetsTheWorkAreaAndNoWiderAndWithAUsableSkin) {
+    for (const auto& [areaTop, atTop] : {std::pair{0, false}, {300, true}, {315, false}}) {
+        host.area.top = areaTop;
+        start({{1, "301"}, {2, "1207"}, {10, "9000"}, {11, "2000"}});
+        EXPECT_EQ(Lines(host.calls.begin(), host.calls.begin() + 5),
+                  (Lines{L"initCommonControls", L"top 301", L"left 1207", L"width 9000", L"height 2000"}));
+        EXPECT_EQ(std::pair(app.settings.MainTop, app.settings.MainLeft), std::pair(300, 1200)) << "as taken";
+        EXPECT_EQ(state.atTop, atTop) << areaTop;
+    }
+    EXPECT_TRUE(sys.messages.empty());
+    start({{38, "1"}, {39, "30000"}});
+    EXPECT_EQ(app.settings.ExpandedWidth, 19200);
+    start({{39, "12000"}});
+    EXPECT_EQ(app.settings.ExpandedWidth, 12000);
+    // A usable skin is kept and any other falls back to the default.
+    sys.addFile(L"D:\\Skins\\Skin_Blue.BMP");
+    sys.addFile(L"D:\\Skins\\Skin_Blue.png");
+    const std::wstring fallback = L"C:\\Orvane\\Skin_Alba.bmp";
+    for (const auto& [skin, used] : {std::pair{"D:\\Skins\\Skin_Blue.BMP", L"D:\\Skins\\Skin_Blue.BMP"},
+                                     {"D:\\Skins\\Skin_Gone.bmp", fallback.c_str()},
+                                     {"D:\\Skins\\Skin_Blue.png", fallback.c_str()}}) {
+        start({{19, skin}});
+        EXPECT_EQ(app.settings.SkinFile, used) << skin;
+        EXPECT_EQ(host.calls[6], L"skin " + std::wstring(used));
+    }
+}
+
+TEST_F(Core, SecondCopyBringsTheFirstForwardAndDoesNothingElse) {
+    host.earlierInstance = true;
+    host.earlierWindow = 40;
+    sys.zOrderAbove = {{40, 41}, {41, 42}};
+    EXPECT_EQ(start({{1, "100"}}), LoadOutcome::HandedOver);
+    EXPECT_EQ(host.calls, (Lines{L"title Redundant instance", L"find Orvane", L"end"}));
+    Lines rounds;  // each from the window the one before reached
+    for (std::wstring w : {L"41", L"42", L"0", L"0", L"0"})
+        rounds.insert(rounds.end(), {L"events", L"restore " + w, L"foreground " + w, L"events"});
+    EXPECT_EQ(sys.journal, rounds) << "and no message";
+    EXPECT_EQ(app.settings.MainTop, 0) << "settings are not even read";
+}
+
+// The helpers the above are built on.
+
+TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
+    const std::tuple<int, int, std::wstring> names[] = {
+        {10, 0, L""},     {6, 3, L"Win 7 + later"}, {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"},
+        {6, 0, L"Vista"}, {5, 2, L"Win XP"},         {5, 0, L"Win XP"},        {4, 10, L"Win 2000"}, {3, 51, L""},
+    };
+    for (const auto& [major, minor, name] : names)
+        EXPECT_EQ(OsVersionName(major, minor), name) << major << '.' << minor;
+    FindSystemFolders(app);
+    EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"\\|\\") << "no registry value and no C:";
+    sys.folders.insert(L"C:\\");
+    FindSystemFolders(app);
+    EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");
+    sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"D:\\Programs";
+    sys.specialFolders[5] = std::wstring(L"C:\\Users\\ann\\Documents\0\0\0", 26);
+    FindSystemFolders(app);
+    EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"D:\\Programs\\|C:\\Users\\ann\\Documents\\");
+    // Deleting skips empty and missing names; a file error names the operation and the reason.
+    sys.addFile(L"C:\\x.txt");
+    DeleteFileIfPresent(app, L"");
+    DeleteFileIfPresent(app, L"C:\\y.txt");
+    DeleteFileIfPresent(app, L"C:\\x.txt");
+    ReportFileError(app, L"C:\\a.lst", L"");
+    ReportFileError(app, L"   ");
+    EXPECT_EQ(sys.journal, (Lines{L"delete C:\\x.txt", L"beep",
+                                  L"message Cannot delete this file :\r\n\r\nC:\\a.lst" + kReason + L"(unknown)\r\n",
+                                  L"beep",
+                                  L"message Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" +
+                                      kReason + L"(unknown)\r\n"}));
+    EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
+    EXPECT_TRUE(sys.files.empty());
+    app.OsVersionName = L"before";
+    sys.version = {10, 0};
+    DetectOsVersion(app);
+    EXPECT_EQ(std::tuple(app.OsVersionCode, app.OsMinorVersion, app.OsVersionName), std::tuple(10, 0, L"before"))
+        << "a version without a label keeps the old name";
+}
+
+// Each step adds a file and shows which path now wins: the later the step, the earlier the place in the search order.
+struct Step { const wchar_t *added, *path, *expected; };  // added: nothing for the first step
+
+TEST_F(Core, PathPiecesTheDocumentPathSearchOrderAndRelocation) {
+    const std::pair<std::wstring, std::wstring> backslashed[] = {
+        {L"C:\\Data ", L"C:\\Data\\"}, {L"C:\\Data/", L"C:\\Data/"},  {L"C:\\Data\\", L"C:\\Data\\"},
+        {L" C:\\Data", L" C:\\Data\\"}, {L"C:\\Data\\  ", L"C:\\Data\\  "}, {L"", L"\\"},
+    };
+    const auto ensured = [](std::wstring path) { EnsureTrailingBackslash(path); return path; };
+    for (const auto& [path, expected] : backslashed) EXPECT_EQ(ensured(path), expected);
+    // The old runtime's cuts at their edges; the search orders below rely on the rest.
+    EXPECT_EQ(ParentFolder(L"a.exe") + L"|" + BackslashFileName(L"x.exe") + L"|" + MidFrom(L"abc", 4) + L"|" +
+                  LeftOf(L"", 1), L"|\\x.exe||");
+    const Step steps[] = {
+        {nullptr, L"", L""}, {nullptr, L"   ", L""}, {nullptr, L"G:\\a\\b.vrt", L"G:\\a\\b.vrt"},
+        {L"E:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"E:\\Drive_G\\a\\b.vrt"},
+        {L"D:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"D:\\Drive_G\\a\\b.vrt"},
+        {L"A:\\Drive_G\\x.vrt", L"G:\\x.vrt", L"G:\\x.vrt"},  // the scan starts at C
+        // A path in a drive folder goes back to its drive, or stays when that has nothing.
+        {nullptr, L"C:\\Drive_G\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt"},
+        {L"G:\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt", L"G:\\T\\Notes.vrt"},
+        {L"C:\\Drive_G\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt"},
+    };
+    for (const Step& step : steps) {
+        if (step.added) sys.addFile(step.added);
+        EXPECT_EQ(ResolveDocumentPath(app, step.path), step.expected) << (step.added ? step.added : L"-");
+    }
+    EXPECT_EQ(TryDriveLetters(app, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
+    // Relocating maps between drive folders and drives; Program Files folders swap both ways, in exact case.
+    EXPECT_EQ(RelocateDrivePath(app, L""), L"");
+    EXPECT_EQ(RelocateDrivePath(app, L"G:\\TellmarkSet\\X\\X.exe"), L"C:\\Drive_G\\TellmarkSet\\X\\X.exe");
+    sys.addFile(L"D:\\Drive_G\\TellmarkSet\\X\\X.exe");
+    EXPECT_EQ(RelocateDrivePath(app, L"C:\\Drive_G\\TellmarkSet\\X\\X.exe"), L"G:\\TellmarkSet\\X\\X.exe");
+    sys.addFile(L"G:\\TellmarkSet\\Y.exe");
+    EXPECT_EQ(RelocateDrivePath(app, L"G:\\TellmarkSet\\Y.exe"), L"G:\\TellmarkSet\\Y.exe");
+    const std::pair<std::wstring, std::wstring> swaps[] = {
+        {L"C:\\Program Files\\Foo\\a.exe", L"C:\\Program Files (x86)\\Foo\\a.exe"},
+        {L"C:\\Program Files (x86)\\Foo\\a.exe", L"C:\\Program Files\\Foo\\a.exe"},
+        {L"c:\\program files\\Foo\\a.exe", L"c:\\program files\\Foo\\a.exe"},
+        {L"D:\\C:\\Program Files\\x", L"C:\\Program Files (x86)\\es\\x"},  // the cut assumes the folder stands first
+    };
+    for (auto [path, expected] : swaps) EXPECT_EQ(SwapProgramFilesFolder(path), expected);
+}
+
+TEST_F(Core, SuitePathSearchOrder) {
+    const wchar_t* stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
+    const Step steps[] = {
+        {nullptr, stored, L"C:\\Orvane\\X.exe"},  // found nowhere: beside this program
+        {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
+        {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"}, {stored, stored, stored},
+        {L"C:\\Orvane\\X.exe", L"D:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"}, {nullptr, L"", L""},
+    };
+    for (const Step& step : steps) {
+        if (step.added) sys.addFile(step.added);
+        std::wstring path = step.path;
+        EXPECT_EQ(&ResolveSuitePath(app, path), &path);
+        EXPECT_EQ(path, step.expected) << (step.added ? step.added : L"-");
+    }
+}
+
+}  // namespace
+}  // namespace orvane
