@@ -9,7 +9,6 @@
 #include "menu.h"
 #include "orvane_process.h"
 #include "resource.h"
-#include "user_input.h"
 #include "win_support.h"
 
 namespace orvane::e2e {

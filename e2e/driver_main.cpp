@@ -6,7 +6,6 @@
 #include <string>
 
 #include "orvane_process.h"
-#include "user_input.h"
 #include "win_support.h"
 
 using namespace orvane;

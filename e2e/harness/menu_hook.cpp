@@ -2,7 +2,7 @@
 // the harness hooks the program's thread with this DLL. On the registered
 // message it writes the window's menu, one item a line ("depth<TAB>id<TAB>type<TAB>text"),
 // into shared memory and signals that it is done.
-#include "user_input.h"
+#include "orvane_process.h"
 
 #include <cstdio>
 #include <string>
