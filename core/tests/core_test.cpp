@@ -493,10 +493,6 @@ TEST_F(Core, OfficeProgramsTheUserLocationWinsThenTheStandardFoldersInOrder) {
     EXPECT_EQ(LocateOfficeProgram(app, L"winword.exe"), office + L"Office\\winword.exe") << "exact case only";
     EXPECT_EQ(LocateOfficeProgram(app, L"EXCEL.EXE"), office + L"Office\\EXCEL.EXE") << "Word's location is Word's";
 
-    LoadOfficeProgram(app, Office::Word, L"C:\\a b.doc");  // the document quoted, the program never
-    ASSERT_EQ(sys.started.size(), 1u);
-    EXPECT_EQ(sys.started[0].commandLine, L"D:\\Word\\WINWORD.EXE \"C:\\a b.doc\"");
-    EXPECT_EQ(app.OfficeProgramPath, L"D:\\Word\\WINWORD.EXE");
 }
 
 TEST_F(Core, SettingsDialogsSameForAllYourProgramAndChosenFiles) {
