@@ -5,7 +5,7 @@
 
 #include "app.h"
 #include "launch.h"
-#include "recording_system.h"
+#include "win32_system.h"
 #include "win_support.h"
 
 namespace orvane::ui {
@@ -13,6 +13,16 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace testsupport;
+
+// The real system, except that messages are recorded instead of shown, so a
+// test can run launches that report without a user to answer them.
+struct RecordingSystem : Win32System {
+    MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon, MessageButtons) override {
+        messages.push_back(caption + L": " + text);
+        return MessageAnswer::Ok;
+    }
+    std::vector<std::wstring> messages;
+};
 
 class RealLaunch : public ::testing::Test {
 protected:
