@@ -163,9 +163,8 @@ TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
     PressKeys(bar, {VK_MENU, 'Q'});
     ASSERT_EQ(orvane->waitForExit(), 0u) << "Alt+Q";
     const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
-    ASSERT_EQ(settings.size(), 39u);
-    EXPECT_EQ(settings[2], "C:\\Old\\Deadlines.vrt");
-    EXPECT_EQ(settings[20], path(L"browser.exe"));
+    EXPECT_EQ(settings.at(2), "C:\\Old\\Deadlines.vrt");
+    EXPECT_EQ(settings.at(20), path(L"browser.exe"));
 }
 
 }  // namespace

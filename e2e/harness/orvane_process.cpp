@@ -58,12 +58,7 @@ std::optional<DWORD> OrvaneProcess::waitForExit(std::chrono::milliseconds timeou
     return ended && GetExitCodeProcess(process_, &code) ? std::optional(code) : std::nullopt;
 }
 
-std::wstring MessageBoxText(HWND box) {
-    constexpr int kMessageTextId = 0xFFFF;
-    wchar_t text[4096] = {};
-    GetDlgItemTextW(box, kMessageTextId, text, 4096);
-    return text;
-}
+std::wstring MessageBoxText(HWND box) { return ControlText(box, 0xFFFF); }  // the box's static text
 
 void PressButton(HWND dialog, int buttonId) { PostMessageW(GetDlgItem(dialog, buttonId), BM_CLICK, 0, 0); }
 
@@ -97,11 +92,9 @@ std::vector<MenuItem> ReadMenu(HWND window) {
 }
 
 bool PickMenuItem(HWND window, const std::wstring& caption) {
-    for (const MenuItem& item : ReadMenu(window)) {
-        if (item.id == 0 || item.text.substr(0, item.text.find(L'\t')) != caption) continue;
-        PostMessageW(window, WM_COMMAND, item.id, 0);
-        return true;
-    }
+    for (const MenuItem& item : ReadMenu(window))
+        if (item.id != 0 && item.text.substr(0, item.text.find(L'\t')) == caption)
+            return PostMessageW(window, WM_COMMAND, item.id, 0) != 0;
     return false;
 }
 
@@ -111,12 +104,8 @@ void PressKeys(HWND window, std::initializer_list<WORD> keys) {
     WaitFor([&] { return GetForegroundWindow() == window; }, 2s);
     std::vector<INPUT> inputs;
     auto add = [&](WORD key, DWORD flags) {
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
-        input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-        input.ki.dwFlags = flags;
-        inputs.push_back(input);
+        inputs.push_back({.type = INPUT_KEYBOARD,
+                          .ki = {key, static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), flags, 0, 0}});
     };
     for (WORD key : keys) add(key, 0);
     for (auto key = keys.end(); key != keys.begin();) add(*--key, KEYEVENTF_KEYUP);
