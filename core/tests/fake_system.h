@@ -30,9 +30,10 @@ inline std::wstring DecodeWindows1252(const std::string& bytes) {
 
 inline std::string EncodeWindows1252(const std::wstring& text) {
     std::string bytes;
-    for (wchar_t c : text) {
-        const auto high = std::ranges::find(kHigh1252, c) - std::begin(kHigh1252);
-        bytes += (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) ? char(c) : high < 32 ? char(0x80 + high) : '?';
+    for (wchar_t c : text) {  // the table is searched only for what it holds
+        const bool direct = c < 0x80 || (c >= 0xA0 && c <= 0xFF);
+        const auto high = direct ? 0 : std::ranges::find(kHigh1252, c) - std::begin(kHigh1252);
+        bytes += direct ? char(c) : high < 32 ? char(0x80 + high) : '?';
     }
     return bytes;
 }
