@@ -54,7 +54,7 @@ HWND WaitForWindow(DWORD processId, const wchar_t* windowClass) {
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    const auto arguments = ParseArguments(argc, argv, "launch_bench", 15, 3);
+    const auto arguments = ParseArguments(argc, argv, "launch_bench", 31, 3);
     if (!arguments) return 2;
     const int runs = arguments->runs;
     const std::wstring& orvanePath = arguments->orvane;
