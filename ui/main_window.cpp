@@ -217,17 +217,14 @@ void MainWindow::toggleDesktop() {
 // Exit closes the bar as its close box does, so the settings are written.
 void MainWindow::exitProgram() { PostMessageW(hwnd(), WM_CLOSE, 0, 0); }
 
-// The layout of the icon strip comes with the strip.
-void MainWindow::useScreenWidth() {}
-void MainWindow::changeIconSize(int) {}
-void MainWindow::toggleIconStrip() {}
-void MainWindow::toggleTopBottom() {}
-// The skin chooser and the menu font come with the skins.
-void MainWindow::chooseSkin() {}
-void MainWindow::chooseMenuFont() {}
-// These windows come with their own subsystems.
-void MainWindow::showCustomPrograms() {}
-void MainWindow::showWebList() {}
-void MainWindow::showWallpaper() {}
+void MainWindow::useScreenWidth() {}        // comes with the icon strip's layout
+void MainWindow::changeIconSize(int) {}     // comes with the icon strip's layout
+void MainWindow::toggleIconStrip() {}       // comes with the icon strip
+void MainWindow::toggleTopBottom() {}       // comes with the icon strip's layout
+void MainWindow::chooseSkin() {}            // the skin chooser comes with the skins
+void MainWindow::chooseMenuFont() {}        // the menu font comes with the skins
+void MainWindow::showCustomPrograms() {}    // the custom programs window comes later
+void MainWindow::showWebList() {}           // the web list window comes later
+void MainWindow::showWallpaper() {}         // the wallpaper window comes later
 
 }  // namespace orvane::ui
