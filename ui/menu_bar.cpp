@@ -84,7 +84,7 @@ void MenuBar::dpiChanged(HWND window) {
 
 void MenuBar::loadResources(HWND window) {
     dpi_ = WindowDpi(window);
-    font_.reset(MenuFont(dpi_));
+    font_.reset();  // made at the new DPI when an item is first measured
     for (UniqueIcon& icon : icons_) icon.reset();  // loaded at the new size when first drawn
 }
 
@@ -127,6 +127,7 @@ bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
         return true;
     }
     HDC dc = GetDC(nullptr);
+    if (!font_) font_.reset(MenuFont(dpi_));  // a start that opens no menu makes no font
     HGDIOBJ previous = SelectObject(dc, font_.get());
     RECT caption{}, shortcut{};
     const std::wstring captionText(row.caption), shortcutText = ShortcutText(row.shortcut);

@@ -41,7 +41,7 @@ private:
     int scaled(int pixelsAt96) const { return MulDiv(pixelsAt96, static_cast<int>(dpi_), 96); }
 
     UniqueAccelerators accelerators_;
-    UniqueFont font_;
+    mutable UniqueFont font_;
     mutable std::array<UniqueIcon, 74> icons_;  // by the icon key's number
     UINT dpi_ = 96;
 };
