@@ -71,7 +71,7 @@ void MenuBar::build(HWND window) {
             shortcuts.push_back({AcceleratorFlags(row.shortcut), row.shortcut.key, static_cast<WORD>(command)});
     }
     accelerators_.reset(CreateAcceleratorTableW(shortcuts.data(), static_cast<int>(shortcuts.size())));
-    loadResources(window);
+    forgetSizedResources(window);
     HMENU previous = GetMenu(window);
     SetMenu(window, bar);  // the window owns it from now on
     if (previous) DestroyMenu(previous);
@@ -82,7 +82,7 @@ void MenuBar::dpiChanged(HWND window) {
     if (GetMenu(window)) build(window);
 }
 
-void MenuBar::loadResources(HWND window) {
+void MenuBar::forgetSizedResources(HWND window) {
     dpi_ = WindowDpi(window);
     font_.reset();  // made at the new DPI when an item is first measured
     for (UniqueIcon& icon : icons_) icon.reset();  // loaded at the new size when first drawn

@@ -36,7 +36,7 @@ public:
     bool draw(const DRAWITEMSTRUCT& item) const;
 
 private:
-    void loadResources(HWND window);
+    void forgetSizedResources(HWND window);
     HICON icon(int key) const;
     int scaled(int pixelsAt96) const { return MulDiv(pixelsAt96, static_cast<int>(dpi_), 96); }
 
