@@ -17,4 +17,8 @@ std::wstring StartupSkin(System& sys, const std::wstring& skinFile, const std::w
     return IsUsableSkin(sys, skinFile) ? skinFile : programFolder + kDefaultSkinName;
 }
 
+std::wstring SkinPathInFolder(const std::wstring& folder, const std::wstring& fileName) {
+    return folder + (folder.ends_with(L'\\') ? L"" : L"\\") + fileName;
+}
+
 }  // namespace orvane

@@ -16,4 +16,7 @@ bool IsUsableSkin(System& sys, const std::wstring& path);
 // default skin in the program folder.
 std::wstring StartupSkin(System& sys, const std::wstring& skinFile, const std::wstring& programFolder);
 
+// A file of the skin folder: one backslash between the two, whether the folder ends with one or not.
+std::wstring SkinPathInFolder(const std::wstring& folder, const std::wstring& fileName);
+
 }  // namespace orvane

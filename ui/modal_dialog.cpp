@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "skin.h"
+
 namespace orvane::ui {
 
 namespace {
@@ -46,16 +48,26 @@ INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LP
         SetWindowLongPtrW(window, DWLP_USER, lParam);
         self->window_ = window;
         CentreOver(window, GetWindow(window, GW_OWNER));
+        Skin::instance().join(window);
         self->onInit();
         return TRUE;
     }
     if (!self) return FALSE;
-    if (message == WM_COMMAND) {
+    switch (message) {
+    case WM_COMMAND:
         self->onCommand(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSTATIC:
+        // The skin behind the dialog and its labels.
+        return reinterpret_cast<INT_PTR>(
+            Skin::instance().controlColour(message, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+    case WM_NCDESTROY:
+        Skin::instance().leave(window);
+        self->window_ = nullptr;
+        break;
     }
-    if (message == WM_NCDESTROY) self->window_ = nullptr;
-    return FALSE;
+    return self->onMessage(message, wParam, lParam);
 }
 
 }  // namespace orvane::ui

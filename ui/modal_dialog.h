@@ -24,6 +24,8 @@ protected:
     virtual void onInit() {}
     // Controls' notifications; the default ends the dialog on OK and Cancel.
     virtual void onCommand(int id, int code);
+    // Any other message; TRUE when the dialog handled it.
+    virtual INT_PTR onMessage(UINT, WPARAM, LPARAM) { return FALSE; }
     void end(INT_PTR result) { EndDialog(window_, result); }
 
     std::wstring itemText(int id) const;
