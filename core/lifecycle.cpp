@@ -72,11 +72,7 @@ LoadOutcome LoadMainWindow(App& app, MainWindowHost& host, MainWindowState& stat
     host.applySkin(app.settings.SkinFile);
 
     host.buildMenuBar();
-
-    // The expanded two-strip size comes with the icon strip; until then the
-    // bar always opens as the single strip, whatever MainWidth and MainHeight say.
-    host.setHeight(kSingleStripHeight);
-    host.setWidth(kSingleStripWidth);
+    host.takeOpeningSize();
     return LoadOutcome::Running;
 }
 

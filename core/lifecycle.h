@@ -20,8 +20,6 @@ struct TwipsRect {
     std::int32_t height = 0;
 };
 
-inline constexpr std::int32_t kSingleStripWidth = 16060;
-inline constexpr std::int32_t kSingleStripHeight = 1020;
 inline constexpr wchar_t kRedundantInstanceTitle[] = L"Redundant instance";
 inline constexpr wchar_t kListFileFilter[] = L"List files (*.lst)|*.lst|All files (*.*)|*.*";
 
@@ -54,6 +52,9 @@ public:
     virtual void layIconStrip() = 0;
     virtual void applySkin(const std::wstring& skinFile) = 0;
     virtual void buildMenuBar() = 0;
+    // The last step: the strip's size when ExpandedLayout is 1, otherwise the
+    // menu bar's alone, whatever MainWidth and MainHeight said.
+    virtual void takeOpeningSize() = 0;
 };
 
 // What the main window keeps of start-up for its own use.

@@ -104,6 +104,7 @@ public:
     // The chosen file, or nothing when the dialog was cancelled or failed.
     virtual std::optional<std::wstring> chooseFile(const FileRequest& request) = 0;
     virtual void beep() = 0;
+    virtual void showWaitCursor() = 0;
     virtual void restoreCursor() = 0;
     virtual void processPendingEvents() = 0;
 };

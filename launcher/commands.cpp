@@ -48,7 +48,16 @@ void MainCommands::run(const DispatchRow& row) {
     case Command::WebList: window_.showWebList(); break;
     case Command::TopBottom: window_.toggleTopBottom(); break;
     case Command::Icons: window_.toggleIconStrip(); break;
+    case Command::OpenWebmail: LoadCustomBrowser(app_, app_.settings.WebmailUrl); break;
     }
+}
+
+void MainCommands::runIcon(int index) {
+    const auto icons = StripIcons();
+    app_.sys.showWaitCursor();
+    if (index >= 0 && index < static_cast<int>(icons.size())) run(icons[static_cast<std::size_t>(index)].row);
+    app_.sys.restoreCursor();
+    app_.sys.processPendingEvents();
 }
 
 bool MainCommands::executeForMainWindow(const std::wstring& file, const std::wstring& parameters) {

@@ -44,6 +44,8 @@ public:
     // Runs the command of the first row with this caption; false when none has it.
     bool dispatch(std::wstring_view caption);
     void run(const DispatchRow& row);
+    // A click on icon `index` of the strip, under the wait cursor.
+    void runIcon(int index);
 
     // Starts a suite tool: resolved to where the suite is, then asked of the
     // shell with the main window as owner. Nothing is checked or reported here.

@@ -18,6 +18,7 @@ enum class Command : std::uint8_t {
     About, CustomBrowser, GetCustomBrowser, WebmailUrl, YourProgram, ToggleDesktop,
     ScreenWidth, IncreaseImageSize, DecreaseImageSize, ChangeSkin, MenuFont,
     CustomPrograms, Wallpaper, WebList, TopBottom, Icons,
+    OpenWebmail,  // the stored address, without asking: the strip's alone
 };
 
 struct DispatchRow {
@@ -27,6 +28,16 @@ struct DispatchRow {
 };
 
 std::span<const DispatchRow> DispatchRows();
+
+// An icon of the strip: the command of a menu caption (its tooltip, without
+// the "&"), and its picture, a menu icon key.
+struct StripIcon {
+    DispatchRow row;
+    std::wstring_view iconKey;
+};
+
+// The strip's 26 icons, left to right.
+std::span<const StripIcon> StripIcons();
 
 // The first row whose caption equals the given one; nothing when none does.
 const DispatchRow* FindDispatchRow(std::wstring_view caption, std::span<const DispatchRow> rows = DispatchRows());

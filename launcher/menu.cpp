@@ -146,6 +146,16 @@ wchar_t AccessLetter(std::wstring_view caption) {
     return 0;
 }
 
+std::wstring WithoutAccessMarks(std::wstring_view caption) {
+    std::wstring text;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == L'&' && (i + 1 == caption.size() || caption[i + 1] != L'&')) continue;
+        text += caption[i];
+        if (caption[i] == L'&') ++i;  // "&&" is one "&"
+    }
+    return text;
+}
+
 std::wstring ShortcutText(Shortcut shortcut) {
     if (shortcut.key == 0) return {};
     std::wstring text;

@@ -39,6 +39,9 @@ bool HasItems(std::span<const MenuRow> rows, std::wstring_view key);
 // plain "&"); 0 when it has none.
 wchar_t AccessLetter(std::wstring_view caption);
 
+// The caption as plain words: "&Work&desk" reads "Workdesk", "A && B" reads "A & B".
+std::wstring WithoutAccessMarks(std::wstring_view caption);
+
 // The shortcut as Windows menus write it: "Ctrl+Shift+M", "Alt+F10", "F4"; empty for none.
 std::wstring ShortcutText(Shortcut shortcut);
 

@@ -5,6 +5,7 @@
 
 #include "dialogs.h"
 #include "dpi.h"
+#include "skin.h"
 
 namespace orvane::ui {
 
@@ -56,8 +57,10 @@ bool MainWindow::open() {
     shell32_.reset(LoadLibraryW(L"shell32.dll"));
     initCommonControls();
     if (!create(WS_EX_APPWINDOW, kMainWindowClass, kProgramTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                applicationWindow_.get()))
+                applicationWindow_.get()) ||
+        !strip_.create(hwnd()))
         return false;
+    Skin::instance().join(hwnd());  // the first of the program's windows
 
     if (LoadMainWindow(app_, *this, state_) == LoadOutcome::HandedOver) return false;
     ShowWindow(hwnd(), SW_SHOWNORMAL);
@@ -81,7 +84,21 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam) unload();  // the session ends: keep the settings
         return 0;
     case WM_DESTROY:
+        Skin::instance().leave(hwnd());
         PostQuitMessage(0);
+        return 0;
+    case WM_ERASEBKGND:
+        Skin::instance().paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
+        return TRUE;
+    case WM_SIZE:
+        resized();
+        break;
+    case WM_SETFOCUS:
+        // The strip is the bar's one control: the keyboard goes there.
+        if (IsWindowVisible(strip_.hwnd())) SetFocus(strip_.hwnd());
+        return 0;
+    case kSkinChanged:
+        setMenuColours();
         return 0;
     case WM_WINDOWPOSCHANGED:
         if (!(reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_NOZORDER)) keepApplicationWindowBelow();
@@ -91,6 +108,7 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         setPixelRect(suggested->left, suggested->top, suggested->right - suggested->left,
                      suggested->bottom - suggested->top, 0);
         menuBar_.dpiChanged(hwnd());
+        resized();
         return 0;
     }
     case WM_COMMAND:
@@ -101,7 +119,7 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case WM_MENUCHAR:
-        if (HIWORD(wParam) == MF_POPUP) return menuBar_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam));
+        if (!(HIWORD(wParam) & MF_SYSMENU)) return menuBar_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam));
         break;
     case WM_MEASUREITEM:
         if (menuBar_.measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam))) return TRUE;
@@ -121,6 +139,42 @@ void MainWindow::keepApplicationWindowBelow() {
 void MainWindow::setPixelRect(int left, int top, int width, int height, UINT flags) {
     SetWindowPos(hwnd(), nullptr, left, top, width, height, flags | SWP_NOZORDER | SWP_NOACTIVATE);
 }
+
+void MainWindow::setTwipsRect(const TwipsRect& r, UINT flags) {
+    const UINT dpi = WindowDpi(hwnd());
+    setPixelRect(TwipsToPixels(r.left, dpi), TwipsToPixels(r.top, dpi), TwipsToPixels(r.width, dpi),
+                 TwipsToPixels(r.height, dpi), flags);
+}
+
+BarState MainWindow::barState() { return {geometry(), app_.settings.ExpandedLayout != 0, state_.atTop}; }
+
+void MainWindow::resized() {
+    if (!strip_.hwnd() || IsIconic(hwnd())) return;
+    Settings& s = app_.settings;
+    const TwipsRect window = geometry();
+    if (layoutDone_ && IsWindowVisible(strip_.hwnd()) && s.ExpandedLayout == 1) s.ExpandedWidth = window.width;
+    // The layout measures from the window's outer edges, where its caption and
+    // menu bar lie inside the top margin; here the system draws them outside
+    // the client area, so the strip keeps its margins by sitting midway in it.
+    const UINT dpi = WindowDpi(hwnd());
+    POINT origin{};
+    ClientToScreen(hwnd(), &origin);
+    RECT client{};
+    GetClientRect(hwnd(), &client);
+    const int dx = origin.x - pixelRect().left;
+    const StripLayout layout = LayStrip(window.width, window.height);
+    const int left = TwipsToPixels(layout.strip.left, dpi) - dx;
+    const int height = std::max(0, TwipsToPixels(layout.strip.height, dpi));
+    const int top = std::max(0, static_cast<int>(client.bottom - height) / 2);
+    const RECT strip{left, top, left + TwipsToPixels(layout.strip.width, dpi), top + height};
+    std::array<int, kIconCount> iconLeft{};
+    for (int i = 0; i < kIconCount; ++i)
+        iconLeft[static_cast<std::size_t>(i)] =
+            static_cast<int>(layout.iconLeft[static_cast<std::size_t>(i)] * dpi / kTwipsPerInch) - dx - left;
+    strip_.place(strip, iconLeft, TwipsToPixels(s.IconSize, dpi));
+}
+
+void MainWindow::setMenuColours() { menuBar_.setColours(hwnd(), Skin::instance().menuColours()); }
 
 RECT MainWindow::pixelRect() {
     RECT r{};
@@ -191,11 +245,28 @@ TwipsRect MainWindow::workArea() { return ToTwips(PixelWorkArea(), WindowDpi(hwn
 
 std::int32_t MainWindow::backColor() { return static_cast<std::int32_t>(kMainBackColor); }
 
-// The icon strip and the skin come with their own modules; the bar opens
-// without them until then.
-void MainWindow::layIconStrip() {}
-void MainWindow::applySkin(const std::wstring&) {}
-void MainWindow::buildMenuBar() { menuBar_.build(hwnd()); }
+void MainWindow::layIconStrip() { changeIconSize(0); }
+
+// Every open window takes the skin; the menu bar takes its colours when told.
+void MainWindow::applySkin(const std::wstring& skinFile) {
+    Skin::instance().load(skinFile);
+    Skin::instance().applyToAll();
+}
+
+void MainWindow::buildMenuBar() {
+    const Settings& s = app_.settings;
+    menuBar_.setFont(s.ListFontName, s.ListFontSize, s.ListFontBold != 0);
+    menuBar_.build(hwnd());
+    setMenuColours();
+}
+
+void MainWindow::takeOpeningSize() {
+    const Settings& s = app_.settings;
+    const bool shown = s.ExpandedLayout == 1;
+    ShowWindow(strip_.hwnd(), shown ? SW_SHOWNA : SW_HIDE);
+    const TwipsRect size = OpeningSize(shown, s.IconSize, s.ExpandedWidth);
+    setTwipsRect(size, SWP_NOMOVE);
+}
 
 std::wstring MainWindow::inputBox(const std::wstring& prompt, const std::wstring& preset) {
     return ShowInputBox(app_, hwnd(), prompt, preset);
@@ -217,10 +288,34 @@ void MainWindow::toggleDesktop() {
 // Exit closes the bar as its close box does, so the settings are written.
 void MainWindow::exitProgram() { PostMessageW(hwnd(), WM_CLOSE, 0, 0); }
 
-void MainWindow::useScreenWidth() {}        // comes with the icon strip's layout
-void MainWindow::changeIconSize(int) {}     // comes with the icon strip's layout
-void MainWindow::toggleIconStrip() {}       // comes with the icon strip
-void MainWindow::toggleTopBottom() {}       // comes with the icon strip's layout
+void MainWindow::useScreenWidth() {
+    const BarState bar = UseScreenWidth(barState(), workArea());
+    setTwipsRect(bar.window, 0);
+}
+
+void MainWindow::changeIconSize(int step) {
+    Settings& s = app_.settings;
+    s.IconSize = SteppedIconSize(s.IconSize, step);
+    setHeight(ExpandedHeight(s.IconSize));
+    resized();
+}
+
+void MainWindow::toggleIconStrip() {
+    layoutDone_ = false;
+    const BarState bar = ToggleIcons(barState(), app_.settings.IconSize, app_.settings.ExpandedWidth);
+    app_.settings.ExpandedLayout = bar.stripShown ? 1 : 0;
+    ShowWindow(strip_.hwnd(), bar.stripShown ? SW_SHOWNA : SW_HIDE);
+    setTwipsRect(bar.window, 0);
+    layoutDone_ = true;
+    resized();
+}
+
+void MainWindow::toggleTopBottom() {
+    const BarState bar = ToggleTopBottom(barState(), workArea());
+    setTop(bar.window.top);
+    state_.atTop = bar.atTop;
+}
+
 void MainWindow::chooseSkin() {}            // the skin chooser comes with the skins
 void MainWindow::chooseMenuFont() {}        // the menu font comes with the skins
 void MainWindow::showCustomPrograms() {}    // the custom programs window comes later

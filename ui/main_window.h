@@ -5,6 +5,8 @@
 #include "app.h"
 #include "commands.h"
 #include "handles.h"
+#include "icon_strip.h"
+#include "layout.h"
 #include "lifecycle.h"
 #include "menu_bar.h"
 #include "window_base.h"
@@ -34,6 +36,12 @@ private:
     void keepApplicationWindowBelow();
     void setPixelRect(int left, int top, int width, int height, UINT flags);
     RECT pixelRect();
+    // Moves and sizes the window in one step, so the resize handler sees only the result.
+    void setTwipsRect(const TwipsRect& rect, UINT flags);
+    BarState barState();
+    // The resize handler: the expanded width follows the user, the strip follows the window.
+    void resized();
+    void setMenuColours();
 
     // MainWindowHost
     bool earlierInstanceRunning() override;
@@ -53,6 +61,7 @@ private:
     void layIconStrip() override;
     void applySkin(const std::wstring& skinFile) override;
     void buildMenuBar() override;
+    void takeOpeningSize() override;
 
     // MainWindowRoutines
     std::wstring inputBox(const std::wstring& prompt, const std::wstring& preset) override;
@@ -74,7 +83,9 @@ private:
     App& app_;
     MenuBar menuBar_;
     MainCommands commands_{app_, *this};
+    IconStrip strip_{[this](int index) { commands_.runIcon(index); }};
     MainWindowState state_;
+    bool layoutDone_ = true;  // false while "&Icons" rearranges the window
     UniqueModule shell32_;
     UniqueHandle instanceMutex_;
     UniqueWindow applicationWindow_;

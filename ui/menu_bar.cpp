@@ -24,8 +24,8 @@ BYTE AcceleratorFlags(Shortcut shortcut) {
                              (shortcut.modifiers & kCtrl ? FCONTROL : 0) | (shortcut.modifiers & kAlt ? FALT : 0));
 }
 
-// The system's menu font at the window's DPI.
-HFONT MenuFont(UINT dpi) {
+// The system's menu font at the window's DPI, or the chosen one.
+HFONT MenuFont(UINT dpi, const std::wstring& name, int points, bool bold) {
     using ForDpi = BOOL(WINAPI*)(UINT, UINT, PVOID, UINT, UINT);
     static const auto forDpi = reinterpret_cast<ForDpi>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "SystemParametersInfoForDpi")));
@@ -35,7 +35,13 @@ HFONT MenuFont(UINT dpi) {
         SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
         metrics.lfMenuFont.lfHeight = MulDiv(metrics.lfMenuFont.lfHeight, static_cast<int>(dpi), static_cast<int>(WindowDpi(nullptr)));
     }
-    return CreateFontIndirectW(&metrics.lfMenuFont);
+    LOGFONTW font = metrics.lfMenuFont;
+    if (!name.empty() && name.size() < LF_FACESIZE) {
+        wcscpy_s(font.lfFaceName, name.c_str());
+        if (points > 0) font.lfHeight = -MulDiv(points, static_cast<int>(dpi), 72);
+        font.lfWeight = bold ? FW_BOLD : FW_NORMAL;
+    }
+    return CreateFontIndirectW(&font);
 }
 
 }  // namespace
@@ -49,24 +55,19 @@ void MenuBar::build(HWND window) {
         const MenuRow& row = rows[i];
         const UINT command = kFirstMenuCommand + static_cast<UINT>(i);
         const std::wstring text = ItemText(row);
-        if (row.parentKey.empty()) {
-            if (HasItems(rows, row.key)) {
-                menus[row.key] = CreatePopupMenu();
-                AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(menus[row.key]), text.c_str());
-            } else {
-                AppendMenuW(bar, MF_STRING, command, text.c_str());
-            }
-        } else {
-            HMENU menu = menus[row.parentKey];
-            MENUITEMINFOW item{};
-            item.cbSize = sizeof item;
-            item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_DATA | (row.isSeparator() ? 0 : MIIM_STRING);
-            item.fType = MFT_OWNERDRAW | (row.isSeparator() ? MFT_SEPARATOR : 0);
-            item.wID = command;
-            item.dwItemData = i;
-            item.dwTypeData = const_cast<wchar_t*>(text.c_str());
-            InsertMenuItemW(menu, GetMenuItemCount(menu), TRUE, &item);
+        MENUITEMINFOW item{};
+        item.cbSize = sizeof item;
+        item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_DATA | (row.isSeparator() ? 0 : MIIM_STRING);
+        item.fType = MFT_OWNERDRAW | (row.isSeparator() ? MFT_SEPARATOR : 0);
+        item.wID = command;
+        item.dwItemData = i;
+        item.dwTypeData = const_cast<wchar_t*>(text.c_str());
+        if (row.parentKey.empty() && HasItems(rows, row.key)) {
+            item.fMask |= MIIM_SUBMENU;
+            item.hSubMenu = menus[row.key] = CreatePopupMenu();
         }
+        HMENU menu = row.parentKey.empty() ? bar : menus[row.parentKey];
+        InsertMenuItemW(menu, GetMenuItemCount(menu), TRUE, &item);
         if (row.shortcut.key)
             shortcuts.push_back({AcceleratorFlags(row.shortcut), row.shortcut.key, static_cast<WORD>(command)});
     }
@@ -75,6 +76,36 @@ void MenuBar::build(HWND window) {
     HMENU previous = GetMenu(window);
     SetMenu(window, bar);  // the window owns it from now on
     if (previous) DestroyMenu(previous);
+    setColours(window, colours_);
+}
+
+void MenuBar::setColours(HWND window, const MenuColours& colours) {
+    colours_ = colours;
+    barBrush_.reset(CreateSolidBrush(colours.barBack));
+    menuBrush_.reset(CreateSolidBrush(colours.menuBack));
+    HMENU bar = GetMenu(window);
+    if (!bar) return;
+    MENUINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIM_BACKGROUND | MIM_APPLYTOSUBMENUS;
+    info.hbrBack = menuBrush_.get();
+    SetMenuInfo(bar, &info);
+    info.fMask = MIM_BACKGROUND;
+    info.hbrBack = barBrush_.get();
+    SetMenuInfo(bar, &info);
+    DrawMenuBar(window);
+}
+
+void MenuBar::setFont(const std::wstring& name, int points, bool bold) {
+    fontName_ = name;
+    fontPoints_ = points;
+    fontBold_ = bold;
+    font_.reset();
+}
+
+HFONT MenuBar::font() const {
+    if (!font_) font_.reset(MenuFont(dpi_, fontName_, fontPoints_, fontBold_));  // a start that draws no item makes no font
+    return font_.get();
 }
 
 void MenuBar::dpiChanged(HWND window) {
@@ -121,20 +152,26 @@ bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
     const auto rows = MainMenuRows();
     if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;
     const MenuRow& row = rows[item.itemData];
+    const bool onBar = row.parentKey.empty();
     if (row.isSeparator()) {
         item.itemWidth = 0;
         item.itemHeight = scaled(7);
         return true;
     }
     HDC dc = GetDC(nullptr);
-    if (!font_) font_.reset(MenuFont(dpi_));  // a start that opens no menu makes no font
-    HGDIOBJ previous = SelectObject(dc, font_.get());
+    HGDIOBJ previous = SelectObject(dc, font());
     RECT caption{}, shortcut{};
     const std::wstring captionText(row.caption), shortcutText = ShortcutText(row.shortcut);
     DrawTextW(dc, captionText.c_str(), -1, &caption, DT_SINGLELINE | DT_CALCRECT);
     DrawTextW(dc, shortcutText.c_str(), -1, &shortcut, DT_SINGLELINE | DT_CALCRECT | DT_NOPREFIX);
     SelectObject(dc, previous);
     ReleaseDC(nullptr, dc);
+    if (onBar) {
+        // The system lays out the bar's items side by side; each is its caption with a margin.
+        item.itemWidth = static_cast<UINT>(caption.right + scaled(4));
+        item.itemHeight = static_cast<UINT>(caption.bottom + scaled(4));
+        return true;
+    }
     // Icon column, caption, a gap, the shortcut, a margin.
     item.itemWidth = static_cast<UINT>(scaled(28) + caption.right + scaled(24) + shortcut.right + scaled(8));
     item.itemHeight = static_cast<UINT>(std::max<int>(scaled(22), caption.bottom + scaled(6)));
@@ -147,20 +184,32 @@ bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
     const MenuRow& row = rows[item.itemData];
     HDC dc = item.hDC;
     RECT r = item.rcItem;
+    if (row.parentKey.empty()) {
+        drawBarItem(item, std::wstring(row.caption));
+        return true;
+    }
     const bool selected = (item.itemState & ODS_SELECTED) && !row.isSeparator();
-    FillRect(dc, &r, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_MENU));
+    UniqueBrush fill(CreateSolidBrush(selected ? colours_.highlight : colours_.menuBack));
+    FillRect(dc, &r, fill.get());
+    if (selected) {
+        UniqueBrush frame(CreateSolidBrush(colours_.frame));
+        FrameRect(dc, &r, frame.get());
+    }
     if (row.isSeparator()) {
-        RECT line{r.left + scaled(28), (r.top + r.bottom) / 2 - 1, r.right - scaled(4), (r.top + r.bottom) / 2 + 1};
-        DrawEdge(dc, &line, EDGE_ETCHED, BF_TOP);
+        RECT line{r.left + scaled(28), (r.top + r.bottom) / 2, r.right - scaled(4), (r.top + r.bottom) / 2 + 1};
+        UniqueBrush pen(CreateSolidBrush(colours_.separator));
+        FillRect(dc, &line, pen.get());
         return true;
     }
     const int iconSize = scaled(16);
     if (HICON icon = this->icon(IconNumber(row.iconKey)))
         DrawIconEx(dc, r.left + scaled(4), (r.top + r.bottom - iconSize) / 2, icon, iconSize, iconSize, 0, nullptr,
                    DI_NORMAL);
-    HGDIOBJ previous = SelectObject(dc, font_.get());
+    HGDIOBJ previous = SelectObject(dc, font());
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT));
+    SetTextColor(dc, (item.itemState & ODS_DISABLED) ? GetSysColor(COLOR_GRAYTEXT)
+                     : selected                      ? colours_.highlightText
+                                                     : colours_.text);
     RECT text{r.left + scaled(28), r.top, r.right - scaled(8), r.bottom};
     // The access letter is underlined once the keyboard is in use.
     const UINT prefix = (item.itemState & ODS_NOACCEL) ? DT_HIDEPREFIX : 0;
@@ -168,6 +217,24 @@ bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
     DrawTextW(dc, ShortcutText(row.shortcut).c_str(), -1, &text, DT_SINGLELINE | DT_VCENTER | DT_RIGHT | DT_NOPREFIX);
     SelectObject(dc, previous);
     return true;
+}
+
+void MenuBar::drawBarItem(const DRAWITEMSTRUCT& item, const std::wstring& caption) const {
+    HDC dc = item.hDC;
+    RECT r = item.rcItem;
+    const bool lit = item.itemState & (ODS_SELECTED | ODS_HOTLIGHT);
+    UniqueBrush fill(CreateSolidBrush(lit ? colours_.highlight : colours_.barBack));
+    FillRect(dc, &r, fill.get());
+    if (lit) {
+        UniqueBrush frame(CreateSolidBrush(colours_.frame));
+        FrameRect(dc, &r, frame.get());
+    }
+    HGDIOBJ previous = SelectObject(dc, font());
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, lit ? colours_.highlightText : colours_.text);
+    const UINT prefix = (item.itemState & ODS_NOACCEL) ? DT_HIDEPREFIX : 0;
+    DrawTextW(dc, caption.c_str(), -1, &r, DT_SINGLELINE | DT_VCENTER | DT_CENTER | prefix);
+    SelectObject(dc, previous);
 }
 
 }  // namespace orvane::ui

@@ -1,6 +1,7 @@
 // The main window's menu bar and keyboard shortcuts, built from the launcher's
-// menu rows. Items with icons are owner-drawn but keep their caption string,
-// so the dispatch, screen readers and tests read the real caption.
+// menu rows. Every item is owner-drawn, in the skin's colours and the chosen
+// font, but keeps its caption string, so the dispatch, screen readers and
+// tests read the real caption.
 #pragma once
 
 #include <windows.h>
@@ -8,6 +9,7 @@
 #include <array>
 #include <string>
 
+#include "appearance.h"
 #include "handles.h"
 
 namespace orvane::ui {
@@ -23,6 +25,11 @@ public:
     void build(HWND window);
     // Fonts, icons and item sizes follow the window's new DPI.
     void dpiChanged(HWND window);
+    // The bar and its menus take these colours at once.
+    void setColours(HWND window, const MenuColours& colours);
+    // The font of the items, in points; an empty name is the system's menu font.
+    // Takes effect when the bar is next built.
+    void setFont(const std::wstring& name, int points, bool bold);
 
     HACCEL accelerators() const { return accelerators_.get(); }
     // The clicked item's caption, without the shortcut text after its tab.
@@ -37,11 +44,18 @@ public:
 
 private:
     void forgetSizedResources(HWND window);
+    HFONT font() const;
     HICON icon(int key) const;
+    void drawBarItem(const DRAWITEMSTRUCT& item, const std::wstring& caption) const;
     int scaled(int pixelsAt96) const { return MulDiv(pixelsAt96, static_cast<int>(dpi_), 96); }
 
     UniqueAccelerators accelerators_;
     mutable UniqueFont font_;
+    std::wstring fontName_;
+    int fontPoints_ = 0;
+    bool fontBold_ = false;
+    MenuColours colours_ = MenuColoursFor(std::nullopt);
+    UniqueBrush barBrush_, menuBrush_;
     mutable std::array<UniqueIcon, 74> icons_;  // by the icon key's number
     UINT dpi_ = 96;
 };

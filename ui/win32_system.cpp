@@ -300,6 +300,8 @@ std::optional<std::wstring> Win32System::chooseFile(const FileRequest& request) 
 
 void Win32System::beep() { MessageBeep(MB_OK); }
 
+void Win32System::showWaitCursor() { SetCursor(LoadCursorW(nullptr, IDC_WAIT)); }
+
 void Win32System::restoreCursor() { SetCursor(LoadCursorW(nullptr, IDC_ARROW)); }
 
 void Win32System::processPendingEvents() {

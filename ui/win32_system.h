@@ -38,6 +38,7 @@ public:
                               MessageButtons buttons) override;
     std::optional<std::wstring> chooseFile(const FileRequest& request) override;
     void beep() override;
+    void showWaitCursor() override;
     void restoreCursor() override;
     void processPendingEvents() override;
 

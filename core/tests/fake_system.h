@@ -122,6 +122,7 @@ public:
         return answer;
     }
     void beep() override { journal.push_back(L"beep"); }
+    void showWaitCursor() override { journal.push_back(L"wait"); }
     void restoreCursor() override { journal.push_back(L"cursor"); }
     void processPendingEvents() override { journal.push_back(L"events"); }
 };

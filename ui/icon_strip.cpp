@@ -1,0 +1,237 @@
+#include "icon_strip.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <vector>
+
+#include "dispatch.h"
+#include "dpi.h"
+#include "menu.h"
+#include "menu_bar.h"
+#include "pixels.h"
+#include "skin.h"
+
+namespace orvane::ui {
+
+namespace {
+
+// The sizes the icon resources hold.
+constexpr int kStoredSizes[] = {16, 20, 24, 32, 48, 64, 96};
+constexpr int kHotMargin = 3;  // the highlight around an icon, in pixels at 96 DPI
+
+std::vector<std::uint32_t> IconPixels(HICON icon, int size) {
+    ICONINFO info{};
+    if (!GetIconInfo(icon, &info)) return {};
+    UniqueBitmap colour(info.hbmColor), mask(info.hbmMask);
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size) * size);
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof format.bmiHeader, size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    HDC dc = GetDC(nullptr);
+    const int rows = colour ? GetDIBits(dc, colour.get(), 0, static_cast<UINT>(size), pixels.data(), &format, DIB_RGB_COLORS) : 0;
+    ReleaseDC(nullptr, dc);
+    if (rows != size) return {};
+    return pixels;
+}
+
+HICON IconFromPixels(const std::vector<std::uint32_t>& pixels, int size) {
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof format.bmiHeader, size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    UniqueBitmap colour(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
+    UniqueBitmap mask(CreateBitmap(size, size, 1, 1, nullptr));
+    if (!colour || !mask) return nullptr;
+    std::copy(pixels.begin(), pixels.end(), static_cast<std::uint32_t*>(bits));
+    ICONINFO info{TRUE, 0, 0, mask.get(), colour.get()};
+    return CreateIconIndirect(&info);
+}
+
+}  // namespace
+
+HICON LoadIconAtSize(int resourceId, int size) {
+    int stored = kStoredSizes[std::size(kStoredSizes) - 1];
+    for (const int s : kStoredSizes)
+        if (s >= size) {
+            stored = s;
+            break;
+        }
+    const auto image = static_cast<HICON>(
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resourceId), IMAGE_ICON, stored, stored, 0));
+    if (!image || stored <= size) return image;
+    UniqueIcon large(image);
+    const auto pixels = IconPixels(large.get(), stored);
+    return pixels.empty() ? large.release() : IconFromPixels(ScaleDown(pixels, stored, size), size);
+}
+
+bool IconStrip::create(HWND parent) {
+    WNDCLASSEXW wc{};
+    wc.style = CS_DBLCLKS;
+    wc.hCursor = LoadCursorW(nullptr, IDC_HAND);
+    wc.lpszClassName = kIconStripClass;
+    registerClass(wc);
+    if (!WindowBase::create(0, kIconStripClass, L"Icons", WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS, parent))
+        return false;
+    SetWindowLongPtrW(hwnd(), GWLP_ID, 1);
+    tooltip_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                   0, 0, 0, 0, hwnd(), nullptr, GetModuleHandleW(nullptr), nullptr));
+    const auto icons = StripIcons();
+    for (int i = 0; i < kIconCount; ++i) {
+        const std::wstring tip = WithoutAccessMarks(icons[static_cast<std::size_t>(i)].row.caption);
+        TTTOOLINFOW tool{};
+        tool.cbSize = sizeof tool;
+        tool.uFlags = TTF_SUBCLASS;
+        tool.hwnd = hwnd();
+        tool.uId = static_cast<UINT_PTR>(i);
+        tool.lpszText = const_cast<wchar_t*>(tip.c_str());  // copied by the tooltip
+        SendMessageW(tooltip_.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    }
+    return true;
+}
+
+void IconStrip::place(const RECT& strip, const std::array<int, kIconCount>& iconLeft, int iconSize) {
+    iconLeft_ = iconLeft;
+    iconSize_ = iconSize;
+    SetWindowPos(hwnd(), nullptr, strip.left, strip.top, strip.right - strip.left, strip.bottom - strip.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    for (int i = 0; i < kIconCount; ++i) {
+        TTTOOLINFOW tool{};
+        tool.cbSize = sizeof tool;
+        tool.hwnd = hwnd();
+        tool.uId = static_cast<UINT_PTR>(i);
+        tool.rect = iconRect(i);
+        SendMessageW(tooltip_.get(), TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
+    }
+    InvalidateRect(hwnd(), nullptr, TRUE);
+}
+
+void IconStrip::loadIcons() {
+    if (loadedSize_ == iconSize_) return;
+    loadedSize_ = iconSize_;
+    const auto icons = StripIcons();
+    for (int i = 0; i < kIconCount; ++i) {
+        const std::wstring_view key = icons[static_cast<std::size_t>(i)].iconKey;
+        const int number = _wtoi(std::wstring(key.substr(1)).c_str());
+        icons_[static_cast<std::size_t>(i)].reset(iconSize_ > 0 ? LoadIconAtSize(kFirstMenuIcon + number, iconSize_) : nullptr);
+    }
+}
+
+RECT IconStrip::iconRect(int index) const {
+    RECT client{};
+    GetClientRect(hwnd(), &client);
+    const int left = iconLeft_[static_cast<std::size_t>(index)];
+    const int top = std::max(0, static_cast<int>(client.bottom - iconSize_) / 2);
+    return {left, top, left + iconSize_, top + iconSize_};
+}
+
+int IconStrip::iconAt(POINT point) const {
+    for (int i = 0; i < kIconCount; ++i) {
+        const RECT r = iconRect(i);
+        if (PtInRect(&r, point)) return i;
+    }
+    return -1;
+}
+
+void IconStrip::setHot(int index) {
+    if (hot_ == index) return;
+    hot_ = index;
+    InvalidateRect(hwnd(), nullptr, TRUE);
+    if (index >= 0) {
+        TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, hwnd(), 0};
+        TrackMouseEvent(&track);
+    }
+}
+
+void IconStrip::paint(HDC dc) {
+    loadIcons();
+    const MenuColours colours = Skin::instance().menuColours();
+    const int margin = MulDiv(kHotMargin, static_cast<int>(WindowDpi(hwnd())), 96);
+    const bool showFocus = GetFocus() == hwnd() && keyboardCues_;
+    for (int i = 0; i < kIconCount; ++i) {
+        RECT r = iconRect(i);
+        if (i == hot_ || (showFocus && i == focused_)) {
+            // The menu's highlight: the same look for "this is what a click would run".
+            RECT cell = r;
+            InflateRect(&cell, margin, margin);
+            UniqueBrush fill(CreateSolidBrush(colours.highlight)), frame(CreateSolidBrush(colours.frame));
+            FillRect(dc, &cell, fill.get());
+            FrameRect(dc, &cell, frame.get());
+        }
+        if (HICON icon = icons_[static_cast<std::size_t>(i)].get())
+            DrawIconEx(dc, r.left, r.top, icon, iconSize_, iconSize_, 0, nullptr, DI_NORMAL);
+    }
+}
+
+LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_ERASEBKGND: {
+        // The skin's tiles run on from the bar behind the strip.
+        RECT place{};
+        GetWindowRect(hwnd(), &place);
+        MapWindowPoints(nullptr, GetParent(hwnd()), reinterpret_cast<POINT*>(&place), 1);
+        SetBrushOrgEx(reinterpret_cast<HDC>(wParam), -place.left, -place.top, nullptr);
+        Skin::instance().paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
+        return TRUE;
+    }
+    case WM_PAINT: {
+        PAINTSTRUCT ps;
+        HDC dc = BeginPaint(hwnd(), &ps);
+        paint(dc);
+        EndPaint(hwnd(), &ps);
+        return 0;
+    }
+    case kSkinChanged:
+        InvalidateRect(hwnd(), nullptr, TRUE);
+        return 0;
+    case WM_DPICHANGED_AFTERPARENT:
+        loadedSize_ = -1;
+        return 0;
+    case WM_MOUSEMOVE:
+        setHot(iconAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}));
+        return 0;
+    case WM_MOUSELEAVE:
+        hot_ = -1;
+        InvalidateRect(hwnd(), nullptr, TRUE);
+        return 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        pressed_ = iconAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        keyboardCues_ = false;
+        if (pressed_ >= 0) SetCapture(hwnd());
+        return 0;
+    case WM_LBUTTONUP: {
+        // A click runs when the button comes up on the icon it went down on.
+        const int pressed = std::exchange(pressed_, -1);
+        ReleaseCapture();
+        if (pressed >= 0 && pressed == iconAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) {
+            focused_ = pressed;
+            run_(pressed);
+        }
+        return 0;
+    }
+    case WM_GETDLGCODE:
+        return DLGC_WANTARROWS;
+    case WM_KEYDOWN: {
+        keyboardCues_ = true;
+        int next = focused_;
+        switch (wParam) {
+        case VK_LEFT: next = std::max(0, focused_ - 1); break;
+        case VK_RIGHT: next = std::min(kIconCount - 1, focused_ + 1); break;
+        case VK_HOME: next = 0; break;
+        case VK_END: next = kIconCount - 1; break;
+        case VK_RETURN:
+        case VK_SPACE: run_(focused_); return 0;
+        default: return 0;
+        }
+        focused_ = next;
+        InvalidateRect(hwnd(), nullptr, TRUE);
+        return 0;
+    }
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+        InvalidateRect(hwnd(), nullptr, TRUE);
+        return 0;
+    }
+    return WindowBase::handleMessage(message, wParam, lParam);
+}
+
+}  // namespace orvane::ui

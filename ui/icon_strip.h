@@ -1,0 +1,52 @@
+// The strip of 26 icons under the menu bar. A click, or Enter or Space on the
+// icon the arrow keys reached, runs the icon's command; hovering shows its
+// name in a tooltip.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <functional>
+
+#include "handles.h"
+#include "layout.h"
+#include "window_base.h"
+
+namespace orvane::ui {
+
+inline constexpr wchar_t kIconStripClass[] = L"Orvane.IconStrip";
+
+class IconStrip : public WindowBase {
+public:
+    explicit IconStrip(std::function<void(int)> run) : run_(std::move(run)) {}
+
+    // A hidden child of the bar.
+    bool create(HWND parent);
+    // The strip's place in the bar's client area, and its icons' left edges
+    // and size, in pixels; the icons are drawn at that size.
+    void place(const RECT& strip, const std::array<int, kIconCount>& iconLeft, int iconSize);
+
+private:
+    LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void paint(HDC dc);
+    RECT iconRect(int index) const;
+    int iconAt(POINT point) const;
+    void setHot(int index);
+    void loadIcons();
+
+    std::function<void(int)> run_;
+    std::array<int, kIconCount> iconLeft_{};
+    std::array<UniqueIcon, kIconCount> icons_;
+    int iconSize_ = 0, loadedSize_ = -1;
+    int hot_ = -1;       // under the mouse
+    int focused_ = 0;    // reached with the keyboard
+    int pressed_ = -1;   // the mouse went down on it
+    bool keyboardCues_ = false;
+    UniqueWindow tooltip_;
+};
+
+// An icon resource drawn at any size: the nearest larger image it holds,
+// averaged down, so it stays sharp at every DPI.
+HICON LoadIconAtSize(int resourceId, int size);
+
+}  // namespace orvane::ui
