@@ -18,6 +18,8 @@ struct TwipsRect {
     std::int32_t top = 0;
     std::int32_t width = 0;
     std::int32_t height = 0;
+
+    bool operator==(const TwipsRect&) const = default;
 };
 
 inline constexpr wchar_t kRedundantInstanceTitle[] = L"Redundant instance";

@@ -17,6 +17,8 @@ inline constexpr Colour kBlack = 0x000000;
 struct SkinColours {
     Colour back = kWhite;  // the bitmap's average colour
     Colour fore = kBlack;  // black or white, whichever stands out more on the back colour
+
+    bool operator==(const SkinColours&) const = default;
 };
 
 // The pixels as a 32-bit bitmap holds them in memory (0x00RRGGBB); an empty
@@ -31,6 +33,8 @@ struct MenuColours {
     Colour highlightText;
     Colour frame;          // around the highlighted item
     Colour separator;
+
+    bool operator==(const MenuColours&) const = default;
 };
 
 // The menu's colours for a skin, or the fixed light scheme without one.

@@ -39,6 +39,8 @@ struct BarState {
     TwipsRect window;
     bool stripShown = false;  // ExpandedLayout is 1
     bool atTop = false;
+
+    bool operator==(const BarState&) const = default;
 };
 BarState ToggleIcons(BarState bar, std::int16_t iconSize, std::int32_t expandedWidth);
 BarState ToggleTopBottom(BarState bar, const TwipsRect& workArea);

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 namespace orvane {
@@ -17,5 +18,13 @@ void ShowAboutDialog(App& app, HWND owner);
 std::wstring ShowInputBox(App& app, HWND owner, const std::wstring& prompt, const std::wstring& preset);
 void ShowProgramLocations(App& app, HWND owner);
 void ShowYourProgram(App& app, HWND owner);
+
+struct FontChoice {
+    std::wstring name;
+    int points = 0;
+    bool bold = false;
+};
+// The system's font dialog preset with the current font; nothing when cancelled.
+std::optional<FontChoice> ChooseFontFor(HWND owner, const FontChoice& current);
 
 }  // namespace orvane::ui

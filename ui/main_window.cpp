@@ -317,7 +317,15 @@ void MainWindow::toggleTopBottom() {
 }
 
 void MainWindow::chooseSkin() {}            // the skin chooser comes with the skins
-void MainWindow::chooseMenuFont() {}        // the menu font comes with the skins
+void MainWindow::chooseMenuFont() {
+    Settings& s = app_.settings;
+    const auto chosen = ChooseFontFor(hwnd(), {s.ListFontName, s.ListFontSize, s.ListFontBold != 0});
+    if (!chosen) return;
+    s.ListFontName = chosen->name;
+    s.ListFontSize = static_cast<std::int16_t>(chosen->points);
+    s.ListFontBold = chosen->bold ? -1 : 0;
+    buildMenuBar();  // the items are measured anew in the new font
+}
 void MainWindow::showCustomPrograms() {}    // the custom programs window comes later
 void MainWindow::showWebList() {}           // the web list window comes later
 void MainWindow::showWallpaper() {}         // the wallpaper window comes later

@@ -1,12 +1,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <fstream>
 #include <sstream>
 
 #include "app.h"
+#include "appearance.h"
 #include "commands.h"
 #include "fake_system.h"
+#include "layout.h"
 #include "menu.h"
+#include "pixels.h"
 
 namespace orvane {
 namespace {
@@ -60,6 +65,7 @@ TEST(MainMenu, RowsFollowTheDesignInOrder) {
     EXPECT_EQ(actual, expected);
     for (const auto& [caption, letter] : {std::pair{L"Top/&bottom", L'b'}, {L"A && &B", L'B'}, {L"||", L'\0'}, {L"a&", L'\0'}})
         EXPECT_EQ(AccessLetter(caption), letter) << caption;
+    EXPECT_EQ(WithoutAccessMarks(L"&Work&desk") + WithoutAccessMarks(L"A && &B&"), L"WorkdeskA & B") << "tooltips";
     // Tool rows whose captions the design gives itself, and the desktop tool's two access letters.
     EXPECT_EQ(SuiteToolOf(Tool::Clock).caption, L"Sho&w clock");
     EXPECT_EQ(SuiteToolOf(Tool::TellmarkSet).caption, L"&Tellmark Set");
@@ -93,11 +99,11 @@ struct Bar : MainWindowRoutines {
         app.ProgramFilesFolder = L"C:\\Program Files\\";
         app.MainWindowRef = 7;
     }
-    // What one command did: its message, shell request, start, routine or system call.
-    std::wstring outcome(const wchar_t* caption, const Given& setup) {
+    // What one command, or a click on an icon, did: its message, shell request, start, routine or system call.
+    std::wstring outcome(const wchar_t* caption, const Given& setup, int icon = -1) {
         if (setup.setting) app.settings.*setup.setting = setup.value;
         if (*setup.present) sys.addFile(setup.present);
-        commands.dispatch(caption);
+        icon < 0 ? void(commands.dispatch(caption)) : commands.runIcon(icon);
         if (!sys.messages.empty()) return sys.messages.back().text;
         if (!sys.shellRequests.empty()) {
             const auto& r = sys.shellRequests.back();
@@ -175,6 +181,94 @@ TEST(Commands, WebmailAsksThenOpensTheCustomBrowser) {
     EXPECT_EQ(bar.app.LastLaunchResult, 0);
     EXPECT_EQ(bar.outcome(L"Web interface U&RL", {&Settings::CustomBrowser, L"C:\\Web\\b.exe"}),
               L"Open C:\\Web\\b.exe [https://mail.example.org/?a b] in C:\\Web -1");  // and no message
+}
+
+TEST(Commands, IconsRunTheirCommandsUnderTheWaitCursorAndWebmailWithoutAsking) {
+    using S = Settings;
+    const struct {
+        int icon;
+        Given setup;
+        std::wstring outcome;
+    } cases[] = {
+        {9, {&S::CustomBrowser, L"C:\\W\\b.exe", L"C:\\W\\b.exe"}, L"start C:\\W\\b.exe https://mail.example.org"},
+        {10, {&S::WordPath, L"C:\\O\\WINWORD.EXE", L"C:\\O\\WINWORD.EXE"}, L"start C:\\O\\WINWORD.EXE"},
+        {18, {&S::ExcelPath, L"C:\\O\\EXCEL.EXE", L"C:\\O\\EXCEL.EXE"}, L"start C:\\O\\EXCEL.EXE"},
+        {19, {&S::PowerPointPath, L"C:\\O\\PP.EXE", L"C:\\O\\PP.EXE"}, L"start C:\\O\\PP.EXE"},
+        {0, {}, L"Open C:\\P\\TellmarkSet.exe [] in C:\\P -1"},
+        {6, {}, L"desktop"},
+        {26, {}, L"events"},
+    };
+    for (const auto& c : cases) {
+        Bar bar;
+        bar.app.settings.WebmailUrl = L"https://mail.example.org";
+        EXPECT_EQ(bar.outcome(nullptr, c.setup, c.icon), c.outcome) << c.icon;
+        const auto& journal = bar.sys.journal;
+        EXPECT_EQ(journal.front() + journal.end()[-2] + journal.back(), L"waitcursorevents") << c.icon;
+    }
+    // Each icon's picture carries the large sizes the strip draws at.
+    std::ifstream table(ORVANE_MENU_ICONS_TABLE);
+    std::set<std::string> large;
+    for (std::string key, name, flag; table >> key >> name && std::getline(table, flag);)
+        if (flag.find("large") == 0 || flag.find(" large") != std::string::npos) large.insert(key);
+    for (const StripIcon& icon : StripIcons())
+        EXPECT_TRUE(large.count(std::string(icon.iconKey.begin(), icon.iconKey.end()))) << std::wstring(icon.row.caption);
+}
+
+TEST(Layout, SizesStepUnevenlyAndTheBarsShapesComeBack) {
+    const std::array<int, 3> steps[] = {{0, 240, 0},       {200, 240, 200}, {240, 280, 200}, {680, 720, 640},
+                                        {720, 720, 680},   {1000, 1000, 680}, {250, 250, 250}, {-40, 240, -40}};
+    for (const auto& [size, larger, smaller] : steps) {
+        const auto s = static_cast<std::int16_t>(size);
+        EXPECT_EQ(std::tuple(SteppedIconSize(s, 1), SteppedIconSize(s, 2), SteppedIconSize(s, 0)),
+                  std::tuple(larger, smaller, size)) << size;
+    }
+    EXPECT_EQ(ExpandedHeight(240), 1400);
+    const StripLayout strip = LayStrip(16061, 1640);
+    EXPECT_EQ(strip.strip, (TwipsRect{120, 520, 15821, 480}));
+    EXPECT_DOUBLE_EQ(strip.iconLeft[25], 200 + 25 * 15861 / 26.0) << "the pitch is not rounded";
+    // Each toggle twice comes back; "&Icons" puts the bar at the top of the screen.
+    const TwipsRect area{0, 300, 19200, 11000};
+    const BarState start{{300, 700, 20000, 1640}, true, true};
+    EXPECT_EQ(ToggleIcons(start, 480, 18000), (BarState{{300, 0, 16060, 1020}, false, true}));
+    EXPECT_EQ(ToggleIcons(ToggleIcons(start, 480, 18000), 480, 18000), (BarState{{300, 0, 18000, 1640}, true, true}));
+    EXPECT_EQ(ToggleTopBottom(start, area), (BarState{{300, 9360, 20000, 1640}, true, false}));
+    EXPECT_EQ(ToggleTopBottom(ToggleTopBottom(start, area), area), (BarState{{300, 300, 20000, 1640}, true, true}));
+    EXPECT_EQ(UseScreenWidth(start, area).window, (TwipsRect{0, 700, 19200, 1640}));
+    EXPECT_EQ(OpeningSize(true, 480, 18000), (TwipsRect{0, 0, 18000, 1640}));
+    EXPECT_EQ(OpeningSize(false, 480, 18000), (TwipsRect{0, 0, 16060, 1020}));
+}
+
+TEST(Appearance, SkinColoursMenuColoursAndIconScaling) {
+    const std::uint32_t redAndBlue[] = {0xFF0000, 0x0000FF};
+    EXPECT_EQ(SkinColoursOf(redAndBlue), (SkinColours{0x800080, kWhite}));
+    EXPECT_EQ(SkinColoursOf({}), (SkinColours{kWhite, kBlack}));
+    EXPECT_EQ(MenuColoursFor(std::nullopt), (MenuColours{0xF6F6F6, kWhite, kBlack, 0xD1ADAD, kBlack, 0x800000, 0xD1ADAD}));
+    // Dark skins: 128 off each component of the highlight, and white on it.
+    EXPECT_EQ(MenuColoursFor(SkinColours{0x143264, kWhite}), (MenuColours{0x143264, 0x143264, kWhite, 0, kWhite, kWhite, kWhite}));
+    EXPECT_EQ(MenuColoursFor(SkinColours{0x283CC8, kBlack}).highlight, 0x000048u);
+    EXPECT_EQ(MenuColoursFor(SkinColours{0xE6E6E6, kBlack}), (MenuColours{0xE6E6E6, 0xE6E6E6, kBlack, 0xF2F2F2, kBlack, kBlack, 0x737373}));
+    // Whatever the skin, text stands out from what it is drawn on.
+    const auto luminance = [](Colour c) {
+        double sum = 0;
+        for (const double weight : {0.2126, 0.7152, 0.0722}) {
+            const double v = (c & 0xFF) / 255.0;
+            sum += weight * (v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4));
+            c >>= 8;
+        }
+        return sum;
+    };
+    const auto contrast = [&](Colour a, Colour b) {
+        const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
+        return (light + 0.05) / (dark + 0.05);
+    };
+    for (std::uint32_t pixel = 0; pixel <= 0xFFFFFF; pixel += 0x332211) {
+        const MenuColours m = MenuColoursFor(SkinColoursOf({&pixel, 1}));
+        EXPECT_GE(std::min(contrast(m.text, m.barBack), contrast(m.highlightText, m.highlight)), 4.0) << std::hex << pixel;
+    }
+    // Icons made smaller: transparent pixels lend no colour.
+    const std::uint32_t icon[] = {0xFFFF0000, 0x0000FF00, 0xFFFF0000, 0xFF0000FF};
+    EXPECT_EQ(ScaleDown(icon, 2, 1), (std::vector<std::uint32_t>{0xBFAA0055}));
+    EXPECT_EQ(ScaleDown(icon, 2, 2).size(), 4u);
 }
 
 }  // namespace
