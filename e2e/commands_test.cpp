@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 
+#include "layout.h"
 #include "menu.h"
 #include "orvane_process.h"
 #include "resource.h"
@@ -32,6 +33,11 @@ protected:
         return SplitCrLf(ReadBytes(folder.settingsFile()));
     }
     std::string path(const std::wstring& name) { return Utf8(folder.path() + L"\\" + name); }
+    static RECT Rect(HWND window) {
+        RECT r{};
+        GetWindowRect(window, &r);
+        return r;
+    }
 
     ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
     std::unique_ptr<OrvaneProcess> orvane;
@@ -43,9 +49,9 @@ TEST_F(Commands, TheMenuShowsTheTableAndItsDialogsWorkFromTheKeyboard) {
     // The desktop toggle may do nothing here, but the bar goes on answering.
     ASSERT_TRUE(PickMenuItem(bar, L"&Goto desktop") && PickMenuItem(bar, L"Des&ktop"));
     std::vector<std::wstring> expected, shown;
-    for (const MenuRow& row : MainMenuRows()) {  // items in menus draw their icons themselves
+    for (const MenuRow& row : MainMenuRows()) {  // every item draws itself, in the skin's colours
         const std::wstring shortcut = ShortcutText(row.shortcut);
-        expected.push_back(std::wstring(row.parentKey.empty() ? L"bar " : L"item drawn ") +
+        expected.push_back(std::wstring(row.parentKey.empty() ? L"bar drawn " : L"item drawn ") +
                            (row.isSeparator() ? L"-" : std::wstring(row.caption)) + (shortcut.empty() ? L"" : L"\t" + shortcut));
     }
     for (const MenuItem& item : ReadMenu(bar))
@@ -164,6 +170,54 @@ TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
     const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
     EXPECT_EQ(settings.at(2), "C:\\Old\\Deadlines.vrt");
     EXPECT_EQ(settings.at(20), path(L"browser.exe"));
+}
+
+TEST_F(Commands, LayoutCommandsReshapeTheBarAndEachComesBackWhenGivenTwice) {
+    HWND bar = start({{13, "200"}, {38, "1"}, {39, "15000"}});
+    ASSERT_NE(bar, nullptr);
+    const int dpi = static_cast<int>(GetDpiForWindow(bar));
+    RECT work{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    const auto pick = [&](const wchar_t* caption) {
+        const RECT before = Rect(bar);
+        EXPECT_TRUE(PickMenuItem(bar, caption)) << caption;
+        WaitFor([&] { const RECT now = Rect(bar); return !EqualRect(&now, &before); }, 5s);
+        return Rect(bar);
+    };
+    const RECT start = pick(L"&Increase image size");
+    EXPECT_NEAR(start.bottom - start.top, MulDiv(1400, dpi, 1440), 1);
+    EXPECT_EQ(pick(L"&Icons").bottom - start.top, MulDiv(1020, dpi, 1440)) << "the menu bar alone";
+    RECT back = pick(L"&Icons");
+    EXPECT_TRUE(EqualRect(&back, &start));
+    EXPECT_NEAR(pick(L"Top/&bottom").bottom, work.bottom, 1);
+    back = pick(L"Top/&bottom");
+    EXPECT_TRUE(EqualRect(&back, &start));
+    const RECT wide = pick(L"Use screen &width");
+    EXPECT_EQ(std::pair(wide.left, wide.right), std::pair(work.left, work.right));
+    const auto settings = closeAndReadSettings();
+    EXPECT_EQ(settings.at(12), "240");
+    EXPECT_NEAR(std::stoi(settings.at(38)), MulDiv(work.right - work.left, 1440, dpi), 15) << "the width followed";
+}
+
+TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
+    HWND bar = start({{13, "480"}, {18, path(L"WINWORD.EXE")}, {19, path(L"Skin_Gone.bmp")}, {38, "1"}, {39, "19200"}},
+                     {L"WINWORD.EXE"});
+    ASSERT_NE(bar, nullptr);
+    HWND strip = FindWindowExW(bar, nullptr, L"Orvane.IconStrip", nullptr);
+    ASSERT_TRUE(strip && IsWindowVisible(strip));
+    // Word's icon, where the layout puts it: from the window's left edge, midway down the strip.
+    const int dpi = static_cast<int>(GetDpiForWindow(bar));
+    const RECT window = Rect(bar), band = Rect(strip);
+    const double left = LayStrip(MulDiv(window.right - window.left, 1440, dpi), 0).iconLeft[10];
+    ClickAt({window.left + static_cast<int>(left * dpi / 1440) + MulDiv(240, dpi, 1440), (band.top + band.bottom) / 2});
+    const auto word = ReadProbeLog(folder.path() + L"\\probe.log", 1);
+    ASSERT_EQ(word.size(), 1u);
+    EXPECT_EQ(word[0].commandLine, path(L"WINWORD.EXE"));
+    EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Alba.bmp"));
+    // Not a bitmap: the same.
+    ASSERT_TRUE(WriteBytes(folder.path() + L"\\Skin_Blue.png", "x"));
+    ASSERT_NE(start({{19, path(L"Skin_Blue.png")}}), nullptr);
+    EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Alba.bmp"));
 }
 
 }  // namespace

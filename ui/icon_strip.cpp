@@ -72,6 +72,19 @@ bool IconStrip::create(HWND parent) {
     if (!WindowBase::create(0, kIconStripClass, L"Icons", WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS, parent))
         return false;
     SetWindowLongPtrW(hwnd(), GWLP_ID, 1);
+    return true;
+}
+
+// Made while the mouse is over the strip and gone when it leaves: an idle
+// tooltip window would stand above the bar in the Z order, where a second
+// copy's hand-over walks.
+void IconStrip::showTooltips(bool shown) {
+    if (!shown || tooltip_) {
+        if (!shown) tooltip_.reset();
+        return;
+    }
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, hwnd(), 0};
+    TrackMouseEvent(&track);
     tooltip_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
                                    0, 0, 0, 0, hwnd(), nullptr, GetModuleHandleW(nullptr), nullptr));
     const auto icons = StripIcons();
@@ -82,10 +95,10 @@ bool IconStrip::create(HWND parent) {
         tool.uFlags = TTF_SUBCLASS;
         tool.hwnd = hwnd();
         tool.uId = static_cast<UINT_PTR>(i);
+        tool.rect = iconRect(i);
         tool.lpszText = const_cast<wchar_t*>(tip.c_str());  // copied by the tooltip
         SendMessageW(tooltip_.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
-    return true;
 }
 
 void IconStrip::place(const RECT& strip, const std::array<int, kIconCount>& iconLeft, int iconSize) {
@@ -93,14 +106,7 @@ void IconStrip::place(const RECT& strip, const std::array<int, kIconCount>& icon
     iconSize_ = iconSize;
     SetWindowPos(hwnd(), nullptr, strip.left, strip.top, strip.right - strip.left, strip.bottom - strip.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    for (int i = 0; i < kIconCount; ++i) {
-        TTTOOLINFOW tool{};
-        tool.cbSize = sizeof tool;
-        tool.hwnd = hwnd();
-        tool.uId = static_cast<UINT_PTR>(i);
-        tool.rect = iconRect(i);
-        SendMessageW(tooltip_.get(), TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
-    }
+    showTooltips(false);  // made anew, with the new places, when the mouse comes back
     InvalidateRect(hwnd(), nullptr, TRUE);
 }
 
@@ -135,10 +141,6 @@ void IconStrip::setHot(int index) {
     if (hot_ == index) return;
     hot_ = index;
     InvalidateRect(hwnd(), nullptr, TRUE);
-    if (index >= 0) {
-        TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, hwnd(), 0};
-        TrackMouseEvent(&track);
-    }
 }
 
 void IconStrip::paint(HDC dc) {
@@ -186,9 +188,11 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         loadedSize_ = -1;
         return 0;
     case WM_MOUSEMOVE:
+        showTooltips(true);
         setHot(iconAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}));
         return 0;
     case WM_MOUSELEAVE:
+        showTooltips(false);
         hot_ = -1;
         InvalidateRect(hwnd(), nullptr, TRUE);
         return 0;

@@ -112,6 +112,20 @@ void PressKeys(HWND window, std::initializer_list<WORD> keys) {
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
+void ClickAt(POINT point) {
+    SetCursorPos(point.x, point.y);
+    INPUT inputs[2] = {{.type = INPUT_MOUSE, .mi = {0, 0, 0, MOUSEEVENTF_LEFTDOWN, 0, 0}},
+                       {.type = INPUT_MOUSE, .mi = {0, 0, 0, MOUSEEVENTF_LEFTUP, 0, 0}}};
+    SendInput(2, inputs, sizeof(INPUT));
+}
+
+COLORREF ScreenColour(POINT point) {
+    HDC screen = GetDC(nullptr);
+    const COLORREF colour = GetPixel(screen, point.x, point.y);
+    ReleaseDC(nullptr, screen);
+    return colour;
+}
+
 HWND WaitForDialogTitled(DWORD processId, const std::wstring& title) {
     HWND dialog = nullptr;
     WaitFor([&] { return (dialog = FindProcessWindow(processId, kDialogClass, title.c_str())) != nullptr; }, 15s);

@@ -101,6 +101,10 @@ bool PickMenuItem(HWND window, const std::wstring& caption);
 
 // Brings the window forward, then presses the keys in order and releases them in reverse.
 void PressKeys(HWND window, std::initializer_list<WORD> keys);
+// A left click at this point of the screen.
+void ClickAt(POINT point);
+// The colour on the screen at this point.
+COLORREF ScreenColour(POINT point);
 
 // The first visible dialog of the process with this title.
 HWND WaitForDialogTitled(DWORD processId, const std::wstring& title);
