@@ -1,0 +1,82 @@
+// The time to apply a skin to the bar: the real main window, opened on a
+// staged folder, takes two skins in turn, each time repainted to the screen.
+// Beside it, the same bar repainted without a change of skin, so the figure
+// reads as a ratio on any machine.
+//
+//   skin_bench [--runs N]      skins from ORVANE_SKINS (a folder of Skin_*.bmp)
+#include <windows.h>
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "app.h"
+#include "bench_support.h"
+#include "main_window.h"
+#include "win32_system.h"
+#include "win_support.h"
+
+namespace ts = orvane::testsupport;
+using namespace orvane::bench;
+using Clock = std::chrono::steady_clock;
+
+namespace {
+
+// Lets every pending message run, the paints included.
+void Settle() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+template <typename Step>
+double Milliseconds(Step step) {
+    const auto started = Clock::now();
+    step();
+    Settle();
+    return std::chrono::duration<double, std::milli>(Clock::now() - started).count();
+}
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    int runs = 21;
+    if (argc == 3 && std::wstring(argv[1]) == L"--runs") runs = std::max(3, _wtoi(argv[2]));
+    const std::wstring skins = ts::EnvironmentPath(L"ORVANE_SKINS");
+    const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"skin bench");
+    const std::wstring light = skins + L"\\Skin_Alba.bmp", dark = skins + L"\\Skin_Slate.bmp";
+    if (GetFileAttributesW(light.c_str()) == INVALID_FILE_ATTRIBUTES || GetFileAttributesW(dark.c_str()) == INVALID_FILE_ATTRIBUTES) {
+        std::printf("error: ORVANE_SKINS names no folder with Skin_Alba.bmp and Skin_Slate.bmp\n");
+        return 1;
+    }
+    // The strip shown (lines 38 and 39) with icons of 480 twips (line 13); lines of "0\r\n" before them.
+    std::string settings = NeutralSettings();
+    settings.replace(38 * 3, 1, "19200");
+    settings.replace(37 * 3, 1, "1");
+    settings.replace(12 * 3, 1, "480");
+    ts::WriteBytes(folder + L"\\Orvane.ini", settings);
+
+    orvane::ui::Win32System system;
+    orvane::App app(system);
+    app.ProgramFolder = folder;
+    orvane::ui::MainWindow bar(app);
+    if (!bar.open()) return 1;
+    orvane::MainWindowHost& host = bar;
+    Settle();
+
+    std::vector<double> apply, repaint;
+    for (int run = 0; run < runs; ++run) {
+        apply.push_back(Milliseconds([&] { host.applySkin(run % 2 ? light : dark); }));
+        repaint.push_back(Milliseconds([&] {
+            RedrawWindow(bar.hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+        }));
+    }
+    const double applied = Median(apply), repainted = Median(repaint);
+    std::printf("medians of %d runs: applying a skin to the bar %.2f ms, repainting the bar alone %.2f ms\n", runs, applied,
+                repainted);
+    std::printf("skin applied / plain repaint: %.2f\n", applied / repainted);
+    DestroyWindow(bar.hwnd());
+    Settle();
+    ts::RemoveTree(folder);
+    return 0;
+}
