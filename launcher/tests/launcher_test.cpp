@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "app.h"
+#include "clock.h"
 #include "commands.h"
 #include "fake_system.h"
 #include "menu.h"
@@ -175,6 +176,17 @@ TEST(Commands, WebmailAsksThenOpensTheCustomBrowser) {
     EXPECT_EQ(bar.app.LastLaunchResult, 0);
     EXPECT_EQ(bar.outcome(L"Web interface U&RL", {&Settings::CustomBrowser, L"C:\\Web\\b.exe"}),
               L"Open C:\\Web\\b.exe [https://mail.example.org/?a b] in C:\\Web -1");  // and no message
+}
+
+TEST(Clock, LabelsHaveTwoDigitsEach) {
+    const struct {
+        int hour, minute, second;
+        const wchar_t *time, *seconds;
+    } cases[] = {{9, 5, 3, L"09:05", L"[ 03 ]"}, {0, 0, 0, L"00:00", L"[ 00 ]"}, {23, 59, 59, L"23:59", L"[ 59 ]"}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(ClockTimeText(c.hour, c.minute), c.time);
+        EXPECT_EQ(ClockSecondsText(c.second), c.seconds);
+    }
 }
 
 }  // namespace
