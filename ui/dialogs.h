@@ -14,6 +14,8 @@ class App;
 namespace orvane::ui {
 
 void ShowAboutDialog(App& app, HWND owner);
+// frmShowTimer: today's date and the running time; the first click or key closes it.
+void ShowClockWindow(HWND owner);
 // The shared input box: the text typed, or empty when cancelled.
 std::wstring ShowInputBox(App& app, HWND owner, const std::wstring& prompt, const std::wstring& preset);
 void ShowProgramLocations(App& app, HWND owner);

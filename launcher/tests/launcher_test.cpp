@@ -7,6 +7,7 @@
 
 #include "app.h"
 #include "appearance.h"
+#include "clock.h"
 #include "commands.h"
 #include "fake_system.h"
 #include "layout.h"
@@ -269,6 +270,11 @@ TEST(Appearance, SkinColoursMenuColoursAndIconScaling) {
     const std::uint32_t icon[] = {0xFFFF0000, 0x0000FF00, 0xFFFF0000, 0xFF0000FF};
     EXPECT_EQ(ScaleDown(icon, 2, 1), (std::vector<std::uint32_t>{0xBFAA0055}));
     EXPECT_EQ(ScaleDown(icon, 2, 2).size(), 4u);
+}
+
+TEST(Clock, LabelsHaveTwoDigitsEach) {
+    for (const auto& [h, m, s, text] : {std::tuple{9, 5, 3, L"09:05 [ 03 ]"}, {0, 0, 0, L"00:00 [ 00 ]"}, {23, 59, 59, L"23:59 [ 59 ]"}})
+        EXPECT_EQ(ClockTimeText(h, m) + L" " + ClockSecondsText(s), text);
 }
 
 }  // namespace
