@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 namespace orvane {
@@ -17,5 +18,13 @@ void ShowAboutDialog(App& app, HWND owner);
 std::wstring ShowInputBox(App& app, HWND owner, const std::wstring& prompt, const std::wstring& preset);
 void ShowProgramLocations(App& app, HWND owner);
 void ShowYourProgram(App& app, HWND owner);
+
+// What the skin chooser asks of the main window.
+struct SkinChooserActions {
+    std::function<void()> applySkin;          // applies app.settings.SkinFile to every open window
+    std::function<void()> adjustMenuColours;  // the menu bar takes the current skin's colours
+};
+// frmChooseSkin, titled "Change skin": the skins of SkinFolder with a preview.
+void ShowSkinChooser(App& app, HWND owner, const SkinChooserActions& actions);
 
 }  // namespace orvane::ui
