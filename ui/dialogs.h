@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -28,5 +29,13 @@ struct FontChoice {
 };
 // The system's font dialog preset with the current font; nothing when cancelled.
 std::optional<FontChoice> ChooseFontFor(HWND owner, const FontChoice& current);
+
+// What the skin chooser asks of the main window.
+struct SkinChooserActions {
+    std::function<void()> applySkin;          // applies app.settings.SkinFile to every open window
+    std::function<void()> adjustMenuColours;  // the menu bar takes the current skin's colours
+};
+// frmChooseSkin, titled "Change skin": the skins of SkinFolder with a preview.
+void ShowSkinChooser(App& app, HWND owner, const SkinChooserActions& actions);
 
 }  // namespace orvane::ui

@@ -71,6 +71,7 @@ using UniqueIcon = Unique<NullTraits<HICON, DestroyIcon>>;
 using UniqueMenu = Unique<NullTraits<HMENU, DestroyMenu>>;
 using UniqueAccelerators = Unique<NullTraits<HACCEL, DestroyAcceleratorTable>>;
 using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, CoTaskMemFree>>;
+using UniqueBstr = Unique<NullTraits<BSTR, SysFreeString>>;
 
 // A COM interface, released once.
 struct ComRelease {

@@ -316,7 +316,9 @@ void MainWindow::toggleTopBottom() {
     state_.atTop = bar.atTop;
 }
 
-void MainWindow::chooseSkin() {}            // the skin chooser comes with the skins
+void MainWindow::chooseSkin() {
+    ShowSkinChooser(app_, hwnd(), {[this] { applySkin(app_.settings.SkinFile); }, [this] { setMenuColours(); }});
+}
 void MainWindow::chooseMenuFont() {
     Settings& s = app_.settings;
     const auto chosen = ChooseFontFor(hwnd(), {s.ListFontName, s.ListFontSize, s.ListFontBold != 0});

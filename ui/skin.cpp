@@ -16,8 +16,10 @@ std::optional<SkinColours> ColoursOfBitmap(HBITMAP bitmap) {
     if (!GetObjectW(bitmap, sizeof info, &info) || info.bmWidth <= 0 || info.bmHeight <= 0) return std::nullopt;
     const int width = info.bmWidth, height = info.bmHeight;
     const int rowStep = std::max(1, height / kSamplesPerSide), columnStep = std::max(1, width / kSamplesPerSide);
+    // The format describes the whole bitmap, so the start line counts in it: with
+    // a height of one, Wine hands back other lines than the one asked for.
     BITMAPINFO format{};
-    format.bmiHeader = {sizeof format.bmiHeader, width, 1, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    format.bmiHeader = {sizeof format.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     std::vector<std::uint32_t> row(static_cast<std::size_t>(width)), samples;
     HDC dc = GetDC(nullptr);
     for (int y = 0; y < height; y += rowStep) {

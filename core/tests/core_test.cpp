@@ -16,6 +16,7 @@
 #include "paths.h"
 #include "reports.h"
 #include "settings.h"
+#include "skin_file.h"
 #include "winlist.h"
 
 namespace orvane {
@@ -365,6 +366,9 @@ TEST_F(Core, TheWindowIsPlacedFromTheSettingsAtTopOnlyWhereItsTopMeetsTheWorkAre
         EXPECT_EQ(app.settings.SkinFile, used) << skin;
         EXPECT_EQ(host.calls[6], L"skin " + std::wstring(used));
     }
+    // The chooser's pick: one backslash between folder and file, whether the folder ends with one or not.
+    for (const wchar_t* folder : {L"C:\\Skins\\", L"C:\\Skins"})
+        EXPECT_EQ(SkinPathInFolder(folder, L"Skin_Blue.bmp"), L"C:\\Skins\\Skin_Blue.bmp") << folder;
 }
 
 TEST_F(Core, SecondCopyBringsTheFirstForwardAndDoesNothingElse) {

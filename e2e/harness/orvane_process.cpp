@@ -1,6 +1,7 @@
 #include "orvane_process.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <sstream>
 
 #include "win_support.h"
@@ -12,6 +13,10 @@ using namespace testsupport;
 ProgramFolder::ProgramFolder(const std::wstring& name)
     : path_(FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), name)) {
     CopyInto(EnvironmentPath(L"ORVANE_EXE"), path_);
+    // The built skins: the default one, and others (a dark one among them) to choose.
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(EnvironmentPath(L"ORVANE_SKINS"), error))
+        if (entry.path().filename().wstring().starts_with(L"Skin_")) CopyInto(entry.path().wstring(), path_);
 }
 
 OrvaneProcess::OrvaneProcess(const ProgramFolder& folder) {

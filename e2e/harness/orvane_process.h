@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 inline constexpr wchar_t kMainWindowClass[] = L"Orvane.Main";
 inline constexpr wchar_t kDialogClass[] = L"#32770";
 
-// A fresh program folder holding a copy of orvane.exe.
+// A fresh program folder holding a copy of orvane.exe and the skins (Skin_*.bmp).
 class ProgramFolder {
 public:
     explicit ProgramFolder(const std::wstring& name);

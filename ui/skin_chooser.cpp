@@ -1,0 +1,165 @@
+// frmChooseSkin: the skins of the skin folder, a preview of the selected one,
+// and the commands that apply it. What is applied stays applied on exit.
+#include <shldisp.h>
+#include <wchar.h>
+
+#include <optional>
+
+#include "app.h"
+#include "dialogs.h"
+#include "handles.h"
+#include "modal_dialog.h"
+#include "resource.h"
+#include "skin.h"
+#include "skin_file.h"
+#include "skin_preview.h"
+
+namespace orvane::ui {
+
+namespace {
+
+constexpr long kFileSystemFoldersOnly = 1;
+
+// The short 8.3 names match the pattern too ("Skin_A.bmpx" as SKIN_A~1.BMP): the long name decides.
+bool IsSkinFileName(const std::wstring& name) {
+    return name.size() >= 9 && _wcsnicmp(name.c_str(), L"Skin_", 5) == 0 &&
+           _wcsicmp(name.c_str() + name.size() - 4, L".bmp") == 0;
+}
+
+// The shell's folder dialog, starting at the given folder; nothing when cancelled.
+std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& start) {
+    EnterComApartment();
+    IShellDispatch* created = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_Shell, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IShellDispatch,
+                                reinterpret_cast<void**>(&created))))
+        return std::nullopt;
+    const ComPointer<IShellDispatch> shell(created);
+    const UniqueBstr title(SysAllocString(L"Select a folder")), root(SysAllocString(start.c_str()));
+    VARIANT rootFolder;
+    VariantInit(&rootFolder);
+    rootFolder.vt = VT_BSTR;
+    rootFolder.bstrVal = root.get();
+    Folder* chosen = nullptr;
+    if (FAILED(shell->BrowseForFolder(HandleToLong(owner), title.get(), kFileSystemFoldersOnly, rootFolder, &chosen)) ||
+        !chosen)
+        return std::nullopt;
+    const ComPointer<Folder> folder(chosen);
+    Folder2* withSelf = nullptr;
+    if (FAILED(folder->QueryInterface(IID_Folder2, reinterpret_cast<void**>(&withSelf)))) return std::nullopt;
+    const ComPointer<Folder2> folder2(withSelf);
+    FolderItem* self = nullptr;
+    if (FAILED(folder2->get_Self(&self)) || !self) return std::nullopt;
+    const ComPointer<FolderItem> item(self);
+    BSTR path = nullptr;
+    if (FAILED(item->get_Path(&path))) return std::nullopt;
+    const UniqueBstr owned(path);
+    return std::wstring(path ? path : L"");
+}
+
+class SkinChooser : public ModalDialog {
+public:
+    SkinChooser(App& app, const SkinChooserActions& actions) : app_(app), actions_(actions) {}
+
+private:
+    HWND list() const { return GetDlgItem(hwnd(), IDC_SKIN_FILES); }
+
+    // The skin files of SkinFolder; none when it is missing.
+    void fillList() {
+        SendMessageW(list(), LB_RESETCONTENT, 0, 0);
+        if (app_.settings.SkinFolder.empty()) return;
+        WIN32_FIND_DATAW found;
+        const std::wstring pattern = SkinPathInFolder(app_.settings.SkinFolder, L"Skin_*.bmp");
+        const UniqueFind search(FindFirstFileW(pattern.c_str(), &found));
+        for (bool more = static_cast<bool>(search); more; more = FindNextFileW(search.get(), &found))
+            if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && IsSkinFileName(found.cFileName))
+                SendMessageW(list(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(found.cFileName));
+    }
+
+    std::wstring selectedName() const {
+        const LRESULT at = SendMessageW(list(), LB_GETCURSEL, 0, 0);
+        if (at == LB_ERR) return {};
+        std::wstring name(static_cast<std::size_t>(SendMessageW(list(), LB_GETTEXTLEN, at, 0)) + 1, L'\0');
+        const LRESULT length = SendMessageW(list(), LB_GETTEXT, at, reinterpret_cast<LPARAM>(name.data()));
+        name.resize(length == LB_ERR ? 0 : static_cast<std::size_t>(length));
+        return name;
+    }
+
+    void showPreview() {
+        preview_ = Skin();
+        if (const std::wstring name = selectedName(); !name.empty())
+            preview_.load(SkinPathInFolder(app_.settings.SkinFolder, name));
+        InvalidateRect(GetDlgItem(hwnd(), IDC_SKIN_PREVIEW), nullptr, FALSE);
+    }
+
+    // A file that is no skin is not applied, but its name is kept: the next
+    // start-up then falls back to the default skin.
+    void changeSkin() {
+        const std::wstring name = selectedName();
+        if (name.empty()) return;
+        app_.settings.SkinFile = SkinPathInFolder(app_.settings.SkinFolder, name);
+        if (IsUsableSkin(app_.sys, app_.settings.SkinFile) && actions_.applySkin) actions_.applySkin();
+    }
+
+    void chooseFolder() {
+        // Owned by the chooser, so the chooser cannot be used or closed while it is open.
+        const auto folder = BrowseForFolder(hwnd(), app_.sys.currentFolder());
+        if (!folder || folder->empty()) return;
+        app_.settings.SkinFolder = *folder;
+        setItemText(IDC_SKIN_FOLDER, *folder);
+        fillList();
+        showPreview();
+        SetCurrentDirectoryW(folder->c_str());
+    }
+
+    void onInit() override {
+        setItemText(IDC_SKIN_FOLDER, app_.settings.SkinFolder);
+        fillList();
+        const std::wstring& file = app_.settings.SkinFile;
+        const std::wstring name = file.substr(file.find_last_of(L'\\') + 1);
+        // Names compare as the file system does: "skin_blue.BMP" selects Skin_Blue.bmp.
+        const LRESULT at = name.empty() ? LB_ERR
+                                        : SendMessageW(list(), LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                                       reinterpret_cast<LPARAM>(name.c_str()));
+        SendMessageW(list(), LB_SETCURSEL, static_cast<WPARAM>(at), 0);
+        showPreview();
+        // After the dialog manager has given the focus to the first control.
+        PostMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list()), TRUE);
+    }
+
+    // Enter outside the buttons arrives as the default button (Use this skin), Esc as IDCANCEL.
+    void onCommand(int id, int code) override {
+        switch (id) {
+        case IDC_SKIN_FILES:
+            if (code == LBN_SELCHANGE) showPreview();
+            if (code == LBN_DBLCLK) changeSkin();
+            break;
+        case IDOK:
+        case IDC_CHANGE_SKIN: changeSkin(); break;
+        case IDC_GET_FOLDER: chooseFolder(); break;
+        case IDC_ADJUST_SKIN:
+            if (actions_.adjustMenuColours) actions_.adjustMenuColours();
+            break;
+        case IDCANCEL:
+        case IDC_EXIT: end(IDCANCEL); break;
+        }
+    }
+
+    INT_PTR onMessage(UINT message, WPARAM, LPARAM lParam) override {
+        const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        if (message != WM_DRAWITEM || item->CtlID != IDC_SKIN_PREVIEW) return FALSE;
+        DrawSkinPreview(*item, preview_, reinterpret_cast<HFONT>(SendMessageW(hwnd(), WM_GETFONT, 0, 0)));
+        return TRUE;
+    }
+
+    App& app_;
+    const SkinChooserActions& actions_;
+    Skin preview_;  // the selected skin, read but not applied
+};
+
+}  // namespace
+
+void ShowSkinChooser(App& app, HWND owner, const SkinChooserActions& actions) {
+    SkinChooser(app, actions).show(owner, IDD_SKIN_CHOOSER);
+}
+
+}  // namespace orvane::ui
