@@ -220,5 +220,28 @@ TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
     EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Alba.bmp"));
 }
 
+TEST_F(Commands, ADarkSkinChosenInTheChooserColoursTheMenuBarAndIsKept) {
+    HWND bar = start({{20, Utf8(folder.path())}});
+    ASSERT_NE(bar, nullptr);
+    // The first item of the menu bar, just above the client area, left of its caption.
+    POINT item{GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYMENU) / 2};
+    ClientToScreen(bar, &item);
+    const auto brightness = [&] {
+        const COLORREF c = ScreenColour(item);
+        return (GetRValue(c) + GetGValue(c) + GetBValue(c)) / 3;
+    };
+    EXPECT_GT(brightness(), 127) << "the default skin is light";
+    ASSERT_TRUE(PickMenuItem(bar, L"Change &skin"));
+    HWND chooser = WaitForDialogTitled(orvane->id(), L"Change skin");
+    ASSERT_NE(chooser, nullptr);
+    EXPECT_EQ(ControlText(chooser, IDC_SKIN_FOLDER), folder.path());
+    PressKeys(chooser, {VK_END});  // Skin_Slate.bmp, last of the four
+    PressKeys(chooser, {VK_RETURN});
+    EXPECT_TRUE(WaitFor([&] { return brightness() <= 127; }, 5s)) << "the menu bar takes the dark skin's colours";
+    PressKeys(chooser, {VK_ESCAPE});
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(chooser); }, 5s));
+    EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Slate.bmp"));
+}
+
 }  // namespace
 }  // namespace orvane::e2e
