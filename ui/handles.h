@@ -71,7 +71,23 @@ using UniqueIcon = Unique<NullTraits<HICON, DestroyIcon>>;
 using UniqueMenu = Unique<NullTraits<HMENU, DestroyMenu>>;
 using UniqueAccelerators = Unique<NullTraits<HACCEL, DestroyAcceleratorTable>>;
 using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, CoTaskMemFree>>;
-using UniqueBstr = Unique<NullTraits<BSTR, SysFreeString>>;
+
+// The automation strings of oleaut32, bound at first use: importing it costs
+// every start for the one dialog that needs it.
+inline FARPROC OleAutomation(const char* function) {
+    static const UniqueModule library(LoadLibraryW(L"oleaut32.dll"));
+    return GetProcAddress(library.get(), function);
+}
+inline BSTR AllocateBstr(const wchar_t* text) {
+    static const auto allocate = reinterpret_cast<BSTR(WINAPI*)(const OLECHAR*)>(
+        reinterpret_cast<void*>(OleAutomation("SysAllocString")));
+    return allocate ? allocate(text) : nullptr;
+}
+inline void FreeBstr(BSTR text) {
+    static const auto free = reinterpret_cast<void(WINAPI*)(BSTR)>(reinterpret_cast<void*>(OleAutomation("SysFreeString")));
+    if (free) free(text);
+}
+using UniqueBstr = Unique<NullTraits<BSTR, FreeBstr>>;
 
 // A COM interface, released once.
 struct ComRelease {

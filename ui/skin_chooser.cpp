@@ -34,9 +34,8 @@ std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& star
                                 reinterpret_cast<void**>(&created))))
         return std::nullopt;
     const ComPointer<IShellDispatch> shell(created);
-    const UniqueBstr title(SysAllocString(L"Select a folder")), root(SysAllocString(start.c_str()));
-    VARIANT rootFolder;
-    VariantInit(&rootFolder);
+    const UniqueBstr title(AllocateBstr(L"Select a folder")), root(AllocateBstr(start.c_str()));
+    VARIANT rootFolder{};
     rootFolder.vt = VT_BSTR;
     rootFolder.bstrVal = root.get();
     Folder* chosen = nullptr;

@@ -54,6 +54,16 @@ inline std::string NeutralSettings() {
     return text;
 }
 
+// The same, with the icon strip shown (lines 38 and 39) at icons of 480
+// twips (line 13): the bar as most users see it.
+inline std::string StripSettings() {
+    std::string text = NeutralSettings();  // "0\r\n" on every line
+    text.replace(38 * 3, 1, "19200");
+    text.replace(37 * 3, 1, "1");
+    text.replace(12 * 3, 1, "480");
+    return text;
+}
+
 // "[--runs N] [path\\to\\orvane.exe]", orvane.exe from ORVANE_EXE when not
 // given. Nothing, after the usage line, when the arguments do not do.
 struct Arguments {

@@ -49,12 +49,7 @@ int wmain(int argc, wchar_t** argv) {
         std::printf("error: ORVANE_SKINS names no folder with Skin_Alba.bmp and Skin_Slate.bmp\n");
         return 1;
     }
-    // The strip shown (lines 38 and 39) with icons of 480 twips (line 13); lines of "0\r\n" before them.
-    std::string settings = NeutralSettings();
-    settings.replace(38 * 3, 1, "19200");
-    settings.replace(37 * 3, 1, "1");
-    settings.replace(12 * 3, 1, "480");
-    ts::WriteBytes(folder + L"\\Orvane.ini", settings);
+    ts::WriteBytes(folder + L"\\Orvane.ini", StripSettings());
 
     orvane::ui::Win32System system;
     orvane::App app(system);

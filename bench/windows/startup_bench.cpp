@@ -1,4 +1,5 @@
-// Start-up cost of orvane.exe next to an empty window program (minwin.exe),
+// Start-up cost of orvane.exe, its icon strip shown and its default skin
+// applied, next to an empty window program (minwin.exe),
 // both started alternately from one staged folder so that they share the same
 // conditions: the time until the window is painted and waits for input, and
 // the peak working set. It reports figures, not a verdict: missing a goal
@@ -112,9 +113,12 @@ int wmain(int argc, wchar_t** argv) {
     if (root.empty()) root = ts::ExeFolder();
     const std::wstring folder = ts::FreshFolder(root, L"startup bench");
     ts::CopyInto(ts::WindowsPath(orvanePath), folder, L"orvane.exe");
+    // The default skin beside it, where start-up looks when the settings name none.
+    const std::wstring built = ts::WindowsPath(orvanePath);
+    ts::CopyInto(built.substr(0, built.find_last_of(L"\\/") + 1) + L"Skin_Alba.bmp", folder);
     ts::CopyInto(ts::ExeFolder() + L"\\minwin.exe", folder, L"minwin.exe");
     const std::wstring settingsPath = folder + L"\\Orvane.ini";
-    const std::string settings = NeutralSettings();
+    const std::string settings = StripSettings();
 
     const Program orvane{"orvane.exe", folder + L"\\orvane.exe", L"Orvane.Main", L"Orvane"};
     const Program empty{"minwin.exe", folder + L"\\minwin.exe", L"Orvane.Bench.Empty", L"Empty"};
