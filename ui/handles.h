@@ -2,6 +2,7 @@
 #pragma once
 
 #include <windows.h>
+#include <shldisp.h>
 #include <shlobj.h>
 
 #include <memory>
@@ -68,23 +69,23 @@ using UniqueBrush = Unique<NullTraits<HBRUSH, DeleteObject>>;
 using UniqueFont = Unique<NullTraits<HFONT, DeleteObject>>;
 using UniqueBitmap = Unique<NullTraits<HBITMAP, DeleteObject>>;
 using UniqueIcon = Unique<NullTraits<HICON, DestroyIcon>>;
+using UniqueDC = Unique<NullTraits<HDC, DeleteDC>>;
 using UniqueMenu = Unique<NullTraits<HMENU, DestroyMenu>>;
 using UniqueAccelerators = Unique<NullTraits<HACCEL, DestroyAcceleratorTable>>;
-using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, CoTaskMemFree>>;
+using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, ILFree>>;
 
-// The automation strings of oleaut32, bound at first use: importing it costs
-// every start for the one dialog that needs it.
-inline FARPROC OleAutomation(const char* function) {
-    static const UniqueModule library(LoadLibraryW(L"oleaut32.dll"));
-    return GetProcAddress(library.get(), function);
+// COM and its automation strings, bound at first use: importing ole32 and
+// oleaut32 costs every start for the few commands that need them.
+template <typename Function>
+Function BoundAtFirstUse(const wchar_t* library, const char* name) {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(library), name)));
 }
 inline BSTR AllocateBstr(const wchar_t* text) {
-    static const auto allocate = reinterpret_cast<BSTR(WINAPI*)(const OLECHAR*)>(
-        reinterpret_cast<void*>(OleAutomation("SysAllocString")));
+    static const auto allocate = BoundAtFirstUse<BSTR(WINAPI*)(const OLECHAR*)>(L"oleaut32.dll", "SysAllocString");
     return allocate ? allocate(text) : nullptr;
 }
 inline void FreeBstr(BSTR text) {
-    static const auto free = reinterpret_cast<void(WINAPI*)(BSTR)>(reinterpret_cast<void*>(OleAutomation("SysFreeString")));
+    static const auto free = BoundAtFirstUse<void(WINAPI*)(BSTR)>(L"oleaut32.dll", "SysFreeString");
     if (free) free(text);
 }
 using UniqueBstr = Unique<NullTraits<BSTR, FreeBstr>>;
@@ -100,12 +101,29 @@ using ComPointer = std::unique_ptr<Interface, ComRelease>;
 // start that never needs COM does not pay for it.
 inline void EnterComApartment() {
     struct Apartment {
-        HRESULT entered = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        HRESULT entered = E_FAIL;
+        Apartment() {
+            if (const auto enter = BoundAtFirstUse<HRESULT(WINAPI*)(void*, DWORD)>(L"ole32.dll", "CoInitializeEx"))
+                entered = enter(nullptr, COINIT_APARTMENTTHREADED);
+        }
         ~Apartment() {
-            if (SUCCEEDED(entered)) CoUninitialize();
+            const auto leave = BoundAtFirstUse<void(WINAPI*)()>(L"ole32.dll", "CoUninitialize");
+            if (SUCCEEDED(entered) && leave) leave();
         }
     };
     static const Apartment apartment;
+}
+
+// A new object of the shell's automation (Shell.Application), in the COM apartment.
+template <typename Interface>
+ComPointer<Interface> CreateShellObject(REFIID interfaceId) {
+    EnterComApartment();
+    static const auto create = BoundAtFirstUse<HRESULT(WINAPI*)(REFCLSID, IUnknown*, DWORD, REFIID, void**)>(
+        L"ole32.dll", "CoCreateInstance");
+    void* created = nullptr;
+    if (!create || FAILED(create(CLSID_Shell, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, interfaceId, &created)))
+        return nullptr;
+    return ComPointer<Interface>(static_cast<Interface*>(created));
 }
 
 // The logic's plain window numbers and the system's window handles.

@@ -22,7 +22,7 @@ constexpr int kHotMargin = 3;  // the highlight around an icon, in pixels at 96 
 
 std::vector<std::uint32_t> IconPixels(HICON icon, int size) {
     ICONINFO info{};
-    if (!GetIconInfo(icon, &info)) return {};
+    if (!icon || !GetIconInfo(icon, &info)) return {};
     UniqueBitmap colour(info.hbmColor), mask(info.hbmMask);
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size) * size);
     BITMAPINFO format{};
@@ -34,34 +34,35 @@ std::vector<std::uint32_t> IconPixels(HICON icon, int size) {
     return pixels;
 }
 
-HICON IconFromPixels(const std::vector<std::uint32_t>& pixels, int size) {
-    BITMAPINFO format{};
-    format.bmiHeader = {sizeof format.bmiHeader, size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    UniqueBitmap colour(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
-    UniqueBitmap mask(CreateBitmap(size, size, 1, 1, nullptr));
-    if (!colour || !mask) return nullptr;
-    std::copy(pixels.begin(), pixels.end(), static_cast<std::uint32_t*>(bits));
-    ICONINFO info{TRUE, 0, 0, mask.get(), colour.get()};
-    return CreateIconIndirect(&info);
+// The image of that size in the icon resource, read where it lies: a 32-bit
+// bitmap image needs no icon made of it. Others (the PNG ones) go through the system.
+std::vector<std::uint32_t> StoredPixels(int resourceId, int size) {
+    const HMODULE module = GetModuleHandleW(nullptr);
+    const HRSRC group = FindResourceW(module, MAKEINTRESOURCEW(resourceId), RT_GROUP_ICON);
+    const auto directory = group ? static_cast<BYTE*>(LockResource(LoadResource(module, group))) : nullptr;
+    const int id = directory ? LookupIconIdFromDirectoryEx(directory, TRUE, size, size, LR_DEFAULTCOLOR) : 0;
+    const HRSRC entry = id ? FindResourceW(module, MAKEINTRESOURCEW(id), RT_ICON) : nullptr;
+    const auto header = entry ? static_cast<const BITMAPINFOHEADER*>(LockResource(LoadResource(module, entry))) : nullptr;
+    if (header && SizeofResource(module, entry) >= sizeof *header + 4u * size * size && header->biSize == sizeof *header &&
+        header->biBitCount == 32 && header->biWidth == size && header->biHeight == 2 * size) {
+        const auto rows = reinterpret_cast<const std::uint32_t*>(header + 1);  // bottom row first
+        std::vector<std::uint32_t> pixels;
+        for (int y = size - 1; y >= 0; --y) pixels.insert(pixels.end(), rows + y * size, rows + (y + 1) * size);
+        return pixels;
+    }
+    const UniqueIcon icon(static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(resourceId), IMAGE_ICON, size, size, 0)));
+    return IconPixels(icon.get(), size);
+}
+
+// An icon resource at any size: the nearest larger image it holds, averaged
+// down, so it stays sharp at every DPI.
+std::vector<std::uint32_t> PixelsAtSize(int resourceId, int size) {
+    for (const int stored : kStoredSizes)
+        if (stored >= size) return ScaleDown(StoredPixels(resourceId, stored), stored, size);
+    return StoredPixels(resourceId, size);  // larger than any: the system stretches the largest
 }
 
 }  // namespace
-
-HICON LoadIconAtSize(int resourceId, int size) {
-    int stored = kStoredSizes[std::size(kStoredSizes) - 1];
-    for (const int s : kStoredSizes)
-        if (s >= size) {
-            stored = s;
-            break;
-        }
-    const auto image = static_cast<HICON>(
-        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resourceId), IMAGE_ICON, stored, stored, 0));
-    if (!image || stored <= size) return image;
-    UniqueIcon large(image);
-    const auto pixels = IconPixels(large.get(), stored);
-    return pixels.empty() ? large.release() : IconFromPixels(ScaleDown(pixels, stored, size), size);
-}
 
 bool IconStrip::create(HWND parent) {
     WNDCLASSEXW wc{};
@@ -113,12 +114,32 @@ void IconStrip::place(const RECT& strip, const std::array<int, kIconCount>& icon
 void IconStrip::loadIcons() {
     if (loadedSize_ == iconSize_) return;
     loadedSize_ = iconSize_;
+    sheetDc_.reset();
+    sheet_.reset();
+    const int size = iconSize_;
+    if (size <= 0) return;
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof format.bmiHeader, size * kIconCount, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    sheet_.reset(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (!sheet_) return;
+    const auto sheet = static_cast<std::uint32_t*>(bits);
     const auto icons = StripIcons();
     for (int i = 0; i < kIconCount; ++i) {
         const std::wstring_view key = icons[static_cast<std::size_t>(i)].iconKey;
-        const int number = _wtoi(std::wstring(key.substr(1)).c_str());
-        icons_[static_cast<std::size_t>(i)].reset(iconSize_ > 0 ? LoadIconAtSize(kFirstMenuIcon + number, iconSize_) : nullptr);
+        const auto pixels = PixelsAtSize(kFirstMenuIcon + _wtoi(std::wstring(key.substr(1)).c_str()), size);
+        if (pixels.size() != static_cast<std::size_t>(size) * size) continue;
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                // Premultiplied, as blending asks.
+                const std::uint32_t p = pixels[static_cast<std::size_t>(y) * size + x], alpha = p >> 24;
+                const auto channel = [&](int shift) { return ((p >> shift & 0xFF) * alpha + 127) / 255 << shift; };
+                sheet[static_cast<std::size_t>(y) * size * kIconCount + i * size + x] =
+                    alpha << 24 | channel(16) | channel(8) | channel(0);
+            }
     }
+    sheetDc_.reset(CreateCompatibleDC(nullptr));
+    SelectObject(sheetDc_.get(), sheet_.get());
 }
 
 RECT IconStrip::iconRect(int index) const {
@@ -158,8 +179,10 @@ void IconStrip::paint(HDC dc) {
             FillRect(dc, &cell, fill.get());
             FrameRect(dc, &cell, frame.get());
         }
-        if (HICON icon = icons_[static_cast<std::size_t>(i)].get())
-            DrawIconEx(dc, r.left, r.top, icon, iconSize_, iconSize_, 0, nullptr, DI_NORMAL);
+        if (sheetDc_) {
+            const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+            GdiAlphaBlend(dc, r.left, r.top, iconSize_, iconSize_, sheetDc_.get(), i * iconSize_, 0, iconSize_, iconSize_, blend);
+        }
     }
 }
 

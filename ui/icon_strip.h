@@ -37,7 +37,9 @@ private:
 
     std::function<void(int)> run_;
     std::array<int, kIconCount> iconLeft_{};
-    std::array<UniqueIcon, kIconCount> icons_;
+    // The 26 pictures side by side at the icons' size, alpha premultiplied.
+    UniqueBitmap sheet_;
+    UniqueDC sheetDc_;
     int iconSize_ = 0, loadedSize_ = -1;
     int hot_ = -1;       // under the mouse
     int focused_ = 0;    // reached with the keyboard
@@ -45,9 +47,5 @@ private:
     bool keyboardCues_ = false;
     UniqueWindow tooltip_;
 };
-
-// An icon resource drawn at any size: the nearest larger image it holds,
-// averaged down, so it stays sharp at every DPI.
-HICON LoadIconAtSize(int resourceId, int size);
 
 }  // namespace orvane::ui

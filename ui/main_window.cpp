@@ -256,8 +256,8 @@ void MainWindow::applySkin(const std::wstring& skinFile) {
 void MainWindow::buildMenuBar() {
     const Settings& s = app_.settings;
     menuBar_.setFont(s.ListFontName, s.ListFontSize, s.ListFontBold != 0);
-    menuBar_.build(hwnd());
-    setMenuColours();
+    menuBar_.setColours(hwnd(), Skin::instance().menuColours());
+    menuBar_.build(hwnd());  // in those colours
 }
 
 void MainWindow::takeOpeningSize() {
@@ -277,12 +277,7 @@ void MainWindow::showYourProgram() { ShowYourProgram(app_, hwnd()); }
 
 // The shell's own desktop toggle; a system without it simply does nothing.
 void MainWindow::toggleDesktop() {
-    EnterComApartment();
-    IShellDispatch4* created = nullptr;
-    if (FAILED(CoCreateInstance(CLSID_Shell, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IShellDispatch4,
-                                reinterpret_cast<void**>(&created))))
-        return;
-    ComPointer<IShellDispatch4>(created)->ToggleDesktop();
+    if (const auto shell = CreateShellObject<IShellDispatch4>(IID_IShellDispatch4)) shell->ToggleDesktop();
 }
 
 // Exit closes the bar as its close box does, so the settings are written.

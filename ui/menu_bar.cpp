@@ -93,7 +93,7 @@ void MenuBar::setColours(HWND window, const MenuColours& colours) {
     info.fMask = MIM_BACKGROUND;
     info.hbrBack = barBrush_.get();
     SetMenuInfo(bar, &info);
-    DrawMenuBar(window);
+    if (IsWindowVisible(window)) DrawMenuBar(window);  // a hidden bar is drawn when shown
 }
 
 void MenuBar::setFont(const std::wstring& name, int points, bool bold) {

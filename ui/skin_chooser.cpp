@@ -28,12 +28,8 @@ bool IsSkinFileName(const std::wstring& name) {
 
 // The shell's folder dialog, starting at the given folder; nothing when cancelled.
 std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& start) {
-    EnterComApartment();
-    IShellDispatch* created = nullptr;
-    if (FAILED(CoCreateInstance(CLSID_Shell, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IShellDispatch,
-                                reinterpret_cast<void**>(&created))))
-        return std::nullopt;
-    const ComPointer<IShellDispatch> shell(created);
+    const auto shell = CreateShellObject<IShellDispatch>(IID_IShellDispatch);
+    if (!shell) return std::nullopt;
     const UniqueBstr title(AllocateBstr(L"Select a folder")), root(AllocateBstr(start.c_str()));
     VARIANT rootFolder{};
     rootFolder.vt = VT_BSTR;
