@@ -230,7 +230,7 @@ TEST_F(Commands, ADarkSkinChosenInTheChooserColoursTheMenuBarAndIsKept) {
         const COLORREF c = ScreenColour(item);
         return (GetRValue(c) + GetGValue(c) + GetBValue(c)) / 3;
     };
-    EXPECT_GT(brightness(), 127) << "the default skin is light";
+    EXPECT_TRUE(WaitFor([&] { return brightness() > 127; }, 5s)) << "the default skin is light";
     ASSERT_TRUE(PickMenuItem(bar, L"Change &skin"));
     HWND chooser = WaitForDialogTitled(orvane->id(), L"Change skin");
     ASSERT_NE(chooser, nullptr);
