@@ -175,9 +175,7 @@ void IconStrip::paint(HDC dc) {
             // The menu's highlight: the same look for "this is what a click would run".
             RECT cell = r;
             InflateRect(&cell, margin, margin);
-            UniqueBrush fill(CreateSolidBrush(colours.highlight)), frame(CreateSolidBrush(colours.frame));
-            FillRect(dc, &cell, fill.get());
-            FrameRect(dc, &cell, frame.get());
+            PaintHighlight(dc, cell, colours);
         }
         if (sheetDc_) {
             const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};

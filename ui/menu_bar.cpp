@@ -5,6 +5,7 @@
 
 #include "dpi.h"
 #include "menu.h"
+#include "skin.h"
 
 namespace orvane::ui {
 
@@ -189,16 +190,10 @@ bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
         return true;
     }
     const bool selected = (item.itemState & ODS_SELECTED) && !row.isSeparator();
-    UniqueBrush fill(CreateSolidBrush(selected ? colours_.highlight : colours_.menuBack));
-    FillRect(dc, &r, fill.get());
-    if (selected) {
-        UniqueBrush frame(CreateSolidBrush(colours_.frame));
-        FrameRect(dc, &r, frame.get());
-    }
+    selected ? PaintHighlight(dc, r, colours_) : FillColour(dc, r, colours_.menuBack);
     if (row.isSeparator()) {
-        RECT line{r.left + scaled(28), (r.top + r.bottom) / 2, r.right - scaled(4), (r.top + r.bottom) / 2 + 1};
-        UniqueBrush pen(CreateSolidBrush(colours_.separator));
-        FillRect(dc, &line, pen.get());
+        FillColour(dc, {r.left + scaled(28), (r.top + r.bottom) / 2, r.right - scaled(4), (r.top + r.bottom) / 2 + 1},
+                   colours_.separator);
         return true;
     }
     const int iconSize = scaled(16);
@@ -223,12 +218,7 @@ void MenuBar::drawBarItem(const DRAWITEMSTRUCT& item, const std::wstring& captio
     HDC dc = item.hDC;
     RECT r = item.rcItem;
     const bool lit = item.itemState & (ODS_SELECTED | ODS_HOTLIGHT);
-    UniqueBrush fill(CreateSolidBrush(lit ? colours_.highlight : colours_.barBack));
-    FillRect(dc, &r, fill.get());
-    if (lit) {
-        UniqueBrush frame(CreateSolidBrush(colours_.frame));
-        FrameRect(dc, &r, frame.get());
-    }
+    lit ? PaintHighlight(dc, r, colours_) : FillColour(dc, r, colours_.barBack);
     HGDIOBJ previous = SelectObject(dc, font());
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, lit ? colours_.highlightText : colours_.text);

@@ -31,6 +31,21 @@ std::optional<SkinColours> ColoursOfBitmap(HBITMAP bitmap) {
     return SkinColoursOf(samples);
 }
 
+void FillColour(HDC dc, const RECT& area, Colour colour) {
+    SetDCBrushColor(dc, colour);
+    FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+}
+
+void FrameColour(HDC dc, const RECT& area, Colour colour) {
+    SetDCBrushColor(dc, colour);
+    FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+}
+
+void PaintHighlight(HDC dc, const RECT& area, const MenuColours& colours) {
+    FillColour(dc, area, colours.highlight);
+    FrameColour(dc, area, colours.frame);
+}
+
 Skin& Skin::instance() {
     static Skin skin;
     return skin;

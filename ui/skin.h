@@ -49,6 +49,12 @@ private:
     std::vector<HWND> windows_;
 };
 
+// Plain colour on a rectangle, and its outline, without making a brush.
+void FillColour(HDC dc, const RECT& area, Colour colour);
+void FrameColour(HDC dc, const RECT& area, Colour colour);
+// The look of the item a click or Enter would run: the highlight inside its frame.
+void PaintHighlight(HDC dc, const RECT& area, const MenuColours& colours);
+
 // A bitmap file's colours as the skin reads them: for tests and benchmarks.
 std::optional<SkinColours> ColoursOfBitmap(HBITMAP bitmap);
 

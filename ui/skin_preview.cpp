@@ -7,16 +7,6 @@ namespace orvane::ui {
 
 namespace {
 
-void Fill(HDC dc, const RECT& area, Colour colour) {
-    const UniqueBrush brush(CreateSolidBrush(colour));
-    FillRect(dc, &area, brush.get());
-}
-
-void Frame(HDC dc, const RECT& area, Colour colour) {
-    const UniqueBrush brush(CreateSolidBrush(colour));
-    FrameRect(dc, &area, brush.get());
-}
-
 void Write(HDC dc, const wchar_t* text, RECT area, Colour colour, UINT format = DT_CENTER) {
     SetTextColor(dc, colour);
     DrawTextW(dc, text, -1, &area, format | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
@@ -31,7 +21,7 @@ int TextWidth(HDC dc, const wchar_t* text) {
 // The bar with its middle item open, as the skin's colours would paint them.
 void DrawMenuSample(HDC dc, const RECT& inside, const MenuColours& menu, int pad, int row) {
     const RECT bar{inside.left, inside.top, inside.right, inside.top + row};
-    Fill(dc, bar, menu.barBack);
+    FillColour(dc, bar, menu.barBack);
     RECT open{};
     int x = bar.left + pad / 2;
     const wchar_t* captions[] = {L"File", L"Edit", L"Varia"};
@@ -39,8 +29,7 @@ void DrawMenuSample(HDC dc, const RECT& inside, const MenuColours& menu, int pad
         const RECT item{x, bar.top, x + TextWidth(dc, caption) + 2 * pad, bar.bottom};
         const bool highlighted = caption == captions[1];
         if (highlighted) {
-            Fill(dc, item, menu.highlight);
-            Frame(dc, item, menu.frame);
+            PaintHighlight(dc, item, menu);
             open = item;
         }
         Write(dc, caption, item, highlighted ? menu.highlightText : menu.text);
@@ -50,13 +39,13 @@ void DrawMenuSample(HDC dc, const RECT& inside, const MenuColours& menu, int pad
     int width = 0;
     for (const wchar_t* entry : entries) width = std::max(width, TextWidth(dc, entry));
     const RECT box{open.left, bar.bottom, open.left + width + 4 * pad, bar.bottom + 2 * row + pad};
-    Fill(dc, box, menu.menuBack);
-    Frame(dc, box, menu.separator);
+    FillColour(dc, box, menu.menuBack);
+    FrameColour(dc, box, menu.separator);
     for (int i = 0; i < static_cast<int>(std::size(entries)); ++i) {
         const int top = box.top + i * (row + pad);
         Write(dc, entries[i], {box.left + 2 * pad, top, box.right, top + row}, menu.text, DT_LEFT);
     }
-    Fill(dc, {box.left + pad / 2, box.top + row + pad / 2, box.right - pad / 2, box.top + row + pad / 2 + 1},
+    FillColour(dc, {box.left + pad / 2, box.top + row + pad / 2, box.right - pad / 2, box.top + row + pad / 2 + 1},
          menu.separator);
 }
 
