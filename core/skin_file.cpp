@@ -1,17 +1,29 @@
 #include "skin_file.h"
 
+#include <algorithm>
 #include <cwctype>
+#include <string_view>
 
 #include "system.h"
 
 namespace orvane {
 
-bool IsUsableSkin(System& sys, const std::wstring& path) {
-    if (path.size() < 4 || !sys.fileExists(path)) return false;
-    std::wstring extension = path.substr(path.size() - 4);
-    for (wchar_t& c : extension) c = static_cast<wchar_t>(std::towlower(c));
-    return extension == L".bmp";
+namespace {
+
+bool SameLetters(std::wstring_view text, std::wstring_view lowerCase) {
+    return text.size() == lowerCase.size() &&
+           std::equal(text.begin(), text.end(), lowerCase.begin(), [](wchar_t a, wchar_t b) { return static_cast<wchar_t>(std::towlower(a)) == b; });
 }
+
+bool EndsWithBmp(std::wstring_view path) { return path.size() >= 4 && SameLetters(path.substr(path.size() - 4), L".bmp"); }
+
+}  // namespace
+
+bool IsSkinFileName(const std::wstring& name) {
+    return name.size() >= 9 && SameLetters(std::wstring_view(name).substr(0, 5), L"skin_") && EndsWithBmp(name);
+}
+
+bool IsUsableSkin(System& sys, const std::wstring& path) { return EndsWithBmp(path) && sys.fileExists(path); }
 
 std::wstring StartupSkin(System& sys, const std::wstring& skinFile, const std::wstring& programFolder) {
     return IsUsableSkin(sys, skinFile) ? skinFile : programFolder + kDefaultSkinName;

@@ -9,6 +9,9 @@ class System;
 
 inline constexpr wchar_t kDefaultSkinName[] = L"\\Skin_Alba.bmp";
 
+// A file name the skin chooser lists: "Skin_" at its start and ".bmp" at its end, in any case.
+bool IsSkinFileName(const std::wstring& name);
+
 // A skin path is usable when it names an existing file ending in ".bmp" (any case).
 bool IsUsableSkin(System& sys, const std::wstring& path);
 

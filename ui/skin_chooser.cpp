@@ -1,7 +1,6 @@
 // frmChooseSkin: the skins of the skin folder, a preview of the selected one,
 // and the commands that apply it. What is applied stays applied on exit.
 #include <shldisp.h>
-#include <wchar.h>
 
 #include <optional>
 
@@ -19,12 +18,6 @@ namespace orvane::ui {
 namespace {
 
 constexpr long kFileSystemFoldersOnly = 1;
-
-// The short 8.3 names match the pattern too ("Skin_A.bmpx" as SKIN_A~1.BMP): the long name decides.
-bool IsSkinFileName(const std::wstring& name) {
-    return name.size() >= 9 && _wcsnicmp(name.c_str(), L"Skin_", 5) == 0 &&
-           _wcsicmp(name.c_str() + name.size() - 4, L".bmp") == 0;
-}
 
 // The shell's folder dialog, starting at the given folder; nothing when cancelled.
 std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& start) {
@@ -66,6 +59,7 @@ private:
         const std::wstring pattern = SkinPathInFolder(app_.settings.SkinFolder, L"Skin_*.bmp");
         const UniqueFind search(FindFirstFileW(pattern.c_str(), &found));
         for (bool more = static_cast<bool>(search); more; more = FindNextFileW(search.get(), &found))
+            // The short 8.3 names match the pattern too ("Skin_A.bmpx" as SKIN_A~1.BMP): the long name decides.
             if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && IsSkinFileName(found.cFileName))
                 SendMessageW(list(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(found.cFileName));
     }
