@@ -1,5 +1,6 @@
 #include "conversions.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -104,6 +105,24 @@ std::vector<std::wstring_view> SplitLines(std::wstring_view text, std::size_t ma
         start = end + ((text[end] == L'\r' && end + 1 < text.size() && text[end + 1] == L'\n') ? 2 : 1);
     }
     return lines;
+}
+
+std::vector<std::string_view> SplitAtCarriageReturns(std::string_view text, std::size_t maxLines) {
+    std::vector<std::string_view> lines;
+    std::size_t start = 0;
+    while (start < text.size() && lines.size() < maxLines) {
+        const auto end = text.find('\r', start);
+        lines.push_back(text.substr(start, end == std::string_view::npos ? end : end - start));
+        if (end == std::string_view::npos) break;
+        start = end + (end + 1 < text.size() && text[end + 1] == '\n' ? 2 : 1);
+    }
+    return lines;
+}
+
+bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view part) {
+    const auto lower = [](wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + 32) : c; };
+    return std::search(text.begin(), text.end(), part.begin(), part.end(),
+                       [&](wchar_t a, wchar_t b) { return lower(a) == lower(b); }) != text.end();
 }
 
 }  // namespace orvane

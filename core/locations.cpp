@@ -11,7 +11,7 @@ static_assert(InEnumOrder(kFileChoices, &FileChoice::which));
 bool ChooseIntoSetting(App& app, Choice which) {
     const FileChoice& choice = kFileChoices[static_cast<std::size_t>(which)];
     std::wstring& setting = app.settings.*choice.setting;
-    const auto chosen = app.sys.chooseFile({choice.title, choice.filter, setting});
+    const auto chosen = app.sys.chooseFile({.title = choice.title, .filter = choice.filter, .preset = setting});
     if (!chosen || chosen->empty()) return false;
     setting = *chosen;
     return true;

@@ -13,7 +13,8 @@ namespace orvane {
 using WindowRef = std::uintptr_t;
 
 enum class MessageIcon { None, Critical, Exclamation, Question, Information };
-enum class MessageButtons { Ok, OkCancel, YesNo, YesNoCancel };
+// YesNoDefaultNo: Yes and No, with No pressed by Enter.
+enum class MessageButtons { Ok, OkCancel, YesNo, YesNoCancel, YesNoDefaultNo };
 enum class MessageAnswer { Ok, Cancel, Yes, No };
 
 struct ShellExecuteRequest {
@@ -42,12 +43,26 @@ struct OsVersion {
 
 enum class RegistryRoot { ClassesRoot, CurrentUser, LocalMachine, Users };
 
-// The platform's file-open dialog. The filter is written "Text|*.txt|All|*.*";
-// the first filter is selected and no initial folder is set.
+// The platform's file-open or file-save dialog. The filter is written
+// "Text|*.txt|All|*.*"; the first filter is selected.
 struct FileRequest {
     std::wstring title;
     std::wstring filter;
-    std::wstring preset;  // the file name shown at first
+    std::wstring preset{};  // the file name shown at first
+    std::wstring folder{};  // where it starts; empty leaves that to the system
+    bool save = false;
+    std::wstring defaultExtension{};  // added to a typed name without one, without the dot
+};
+
+// A moment in local time.
+struct DateTime {
+    int year = 0, month = 0, day = 0, dayOfWeek = 0;  // dayOfWeek: 0 is Sunday
+    int hour = 0, minute = 0, second = 0;
+};
+
+struct FileFacts {
+    std::uint64_t size = 0;
+    DateTime lastChange;
 };
 
 // Error numbers as the old runtime reported them for file operations.
@@ -67,6 +82,10 @@ public:
     virtual FileError writeFile(const std::wstring& path, const std::string& bytes) = 0;
     virtual bool deleteFile(const std::wstring& path) = 0;
     virtual std::wstring currentFolder() = 0;
+    // The current drive and folder; false, with nothing changed, when it cannot be.
+    virtual bool setCurrentFolder(const std::wstring& folder) = 0;
+    // Size and time of last change of an existing file.
+    virtual std::optional<FileFacts> fileFacts(const std::wstring& path) = 0;
     // The system's words for the last failed operation; empty when there is none.
     virtual std::wstring lastErrorDescription() = 0;
 
@@ -98,11 +117,19 @@ public:
     virtual std::wstring specialFolder(int csidl) = 0;
     virtual OsVersion osVersion() = 0;
 
+    // The clock and the user's locale. A picture is the platform's ("dddd, MMM d
+    // yyyy", "HH:mm:ss"); an empty one is the locale's own short date or long time.
+    virtual DateTime now() = 0;
+    virtual std::wstring dateText(const DateTime& moment, const std::wstring& picture) = 0;
+    virtual std::wstring timeText(const DateTime& moment, const std::wstring& picture) = 0;
+    virtual std::wstring thousandsSeparator() = 0;
+
     // User interface services.
     virtual MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
                                       MessageButtons buttons) = 0;
     // The chosen file, or nothing when the dialog was cancelled or failed.
     virtual std::optional<std::wstring> chooseFile(const FileRequest& request) = 0;
+    virtual bool setClipboardText(const std::wstring& text) = 0;
     virtual void beep() = 0;
     virtual void showWaitCursor() = 0;
     virtual void restoreCursor() = 0;

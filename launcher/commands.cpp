@@ -81,14 +81,16 @@ std::optional<std::wstring> MainCommands::locateDocument(const std::wstring& sto
     return document;
 }
 
-// The document is passed as it is: the tool gets it unquoted, blanks and all.
-// Outlines (".vrt" in any case) open in the outliner, anything else in the scratch pad.
-void MainCommands::loadDeadlines() {
-    const auto document = locateDocument(app_.settings.DeadlinesFile);
-    if (!document) return;
-    std::wstring ending = document->size() >= 4 ? document->substr(document->size() - 4) : *document;
+Tool DeadlinesTool(const std::wstring& document) {
+    std::wstring ending = document.size() >= 4 ? document.substr(document.size() - 4) : document;
     for (wchar_t& c : ending) c = static_cast<wchar_t>(std::towlower(c));
-    launchSuiteTool(ending == L".vrt" ? Tool::Outliner : Tool::ScratchPad, *document);
+    return ending == L".vrt" ? Tool::Outliner : Tool::ScratchPad;
+}
+
+// The document is passed as it is: the tool gets it unquoted, blanks and all.
+void MainCommands::loadDeadlines() {
+    if (const auto document = locateDocument(app_.settings.DeadlinesFile))
+        launchSuiteTool(DeadlinesTool(*document), *document);
 }
 
 void MainCommands::loadAddresses() {

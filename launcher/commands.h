@@ -37,6 +37,10 @@ public:
     virtual void showWallpaper() = 0;
 };
 
+// The tool for a deadlines document: outlines (".vrt" in any case) open in the
+// outliner, anything else in the scratch pad.
+Tool DeadlinesTool(const std::wstring& document);
+
 class MainCommands {
 public:
     MainCommands(App& app, MainWindowRoutines& window) : app_(app), window_(window) {}

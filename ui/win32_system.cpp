@@ -4,6 +4,7 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include <cstring>
 #include <vector>
 
 #include "handles.h"
@@ -116,6 +117,81 @@ std::wstring Win32System::currentFolder() {
     std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
     folder.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
     return folder;
+}
+
+bool Win32System::setCurrentFolder(const std::wstring& folder) {
+    return !folder.empty() && remember(SetCurrentDirectoryW(folder.c_str()));
+}
+
+namespace {
+
+DateTime FromSystemTime(const SYSTEMTIME& t) {
+    return {t.wYear, t.wMonth, t.wDay, t.wDayOfWeek, t.wHour, t.wMinute, t.wSecond};
+}
+
+SYSTEMTIME ToSystemTime(const DateTime& t) {
+    const auto w = [](int value) { return static_cast<WORD>(value); };
+    return {w(t.year), w(t.month), w(t.dayOfWeek), w(t.day), w(t.hour), w(t.minute), w(t.second), 0};
+}
+
+}  // namespace
+
+std::optional<FileFacts> Win32System::fileFacts(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!remember(GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) ||
+        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
+        return std::nullopt;
+    SYSTEMTIME universal{}, local{};
+    if (!FileTimeToSystemTime(&data.ftLastWriteTime, &universal) ||
+        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+        return std::nullopt;
+    return FileFacts{(std::uint64_t{data.nFileSizeHigh} << 32) | data.nFileSizeLow, FromSystemTime(local)};
+}
+
+DateTime Win32System::now() {
+    SYSTEMTIME local{};
+    GetLocalTime(&local);
+    return FromSystemTime(local);
+}
+
+std::wstring Win32System::dateText(const DateTime& moment, const std::wstring& picture) {
+    const SYSTEMTIME t = ToSystemTime(moment);
+    wchar_t text[128] = {};
+    const int length = GetDateFormatW(LOCALE_USER_DEFAULT, picture.empty() ? DATE_SHORTDATE : 0, &t,
+                                      OrNull(picture), text, 128);
+    return std::wstring(text, length > 0 ? static_cast<std::size_t>(length - 1) : 0);
+}
+
+std::wstring Win32System::timeText(const DateTime& moment, const std::wstring& picture) {
+    const SYSTEMTIME t = ToSystemTime(moment);
+    wchar_t text[128] = {};
+    const int length = GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &t, OrNull(picture), text, 128);
+    return std::wstring(text, length > 0 ? static_cast<std::size_t>(length - 1) : 0);
+}
+
+std::wstring Win32System::thousandsSeparator() {
+    wchar_t separator[8] = {};
+    const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, 8);
+    return std::wstring(separator, length > 0 ? static_cast<std::size_t>(length - 1) : 0);
+}
+
+bool Win32System::setClipboardText(const std::wstring& text) {
+    const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+    if (!memory) return false;
+    if (void* target = GlobalLock(memory)) {
+        std::memcpy(target, text.c_str(), bytes);
+        GlobalUnlock(memory);
+    }
+    if (!OpenClipboard(owner())) {
+        GlobalFree(memory);
+        return false;
+    }
+    EmptyClipboard();
+    const bool set = SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
+    CloseClipboard();
+    if (!set) GlobalFree(memory);  // the clipboard owns it only when taken
+    return set;
 }
 
 std::wstring Win32System::lastErrorDescription() {
@@ -255,7 +331,7 @@ OsVersion Win32System::osVersion() {
 MessageAnswer Win32System::showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
                                        MessageButtons buttons) {
     static constexpr UINT kIcons[] = {0, MB_ICONHAND, MB_ICONEXCLAMATION, MB_ICONQUESTION, MB_ICONASTERISK};
-    static constexpr UINT kButtons[] = {MB_OK, MB_OKCANCEL, MB_YESNO, MB_YESNOCANCEL};
+    static constexpr UINT kButtons[] = {MB_OK, MB_OKCANCEL, MB_YESNO, MB_YESNOCANCEL, MB_YESNO | MB_DEFBUTTON2};
     switch (MessageBoxW(owner(), text.c_str(), caption.c_str(),
                         kIcons[static_cast<int>(icon)] | kButtons[static_cast<int>(buttons)])) {
     case IDCANCEL: return MessageAnswer::Cancel;
@@ -286,15 +362,20 @@ std::optional<std::wstring> Win32System::chooseFile(const FileRequest& request) 
     dialog.lpstrFile = name.data();
     dialog.nMaxFile = static_cast<DWORD>(name.size());
     dialog.lpstrTitle = request.title.c_str();
-    dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY;
+    dialog.lpstrInitialDir = OrNull(request.folder);
+    dialog.lpstrDefExt = OrNull(request.defaultExtension);
+    dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | (request.save ? OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST : 0);
     // Bound at first use: loading the common dialogs at start-up costs every
     // start time and memory for a dialog most sessions never open.
-    using GetOpenFileNameFn = BOOL(WINAPI*)(OPENFILENAMEW*);
+    using FileDialogFn = BOOL(WINAPI*)(OPENFILENAMEW*);
     static const UniqueModule library(LoadLibraryW(L"comdlg32.dll"));
-    static const auto getOpenFileName = reinterpret_cast<GetOpenFileNameFn>(
-        reinterpret_cast<void*>(GetProcAddress(library.get(), "GetOpenFileNameW")));
+    const auto bind = [](const char* name) {
+        return reinterpret_cast<FileDialogFn>(reinterpret_cast<void*>(GetProcAddress(library.get(), name)));
+    };
+    static const FileDialogFn getOpenFileName = bind("GetOpenFileNameW"), getSaveFileName = bind("GetSaveFileNameW");
+    const FileDialogFn show = request.save ? getSaveFileName : getOpenFileName;
     EnterComApartment();  // the dialog browses the shell's folders
-    if (!getOpenFileName || !getOpenFileName(&dialog)) return std::nullopt;
+    if (!show || !show(&dialog)) return std::nullopt;
     return std::wstring(name.c_str());
 }
 

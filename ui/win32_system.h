@@ -19,6 +19,8 @@ public:
     FileError writeFile(const std::wstring& path, const std::string& bytes) override;
     bool deleteFile(const std::wstring& path) override;
     std::wstring currentFolder() override;
+    bool setCurrentFolder(const std::wstring& folder) override;
+    std::optional<FileFacts> fileFacts(const std::wstring& path) override;
     std::wstring lastErrorDescription() override;
     std::wstring fromAnsi(const std::string& bytes) override;
     std::string toAnsi(const std::wstring& text) override;
@@ -34,9 +36,14 @@ public:
                                                const std::wstring& valueName) override;
     std::wstring specialFolder(int csidl) override;
     OsVersion osVersion() override;
+    DateTime now() override;
+    std::wstring dateText(const DateTime& moment, const std::wstring& picture) override;
+    std::wstring timeText(const DateTime& moment, const std::wstring& picture) override;
+    std::wstring thousandsSeparator() override;
     MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
                               MessageButtons buttons) override;
     std::optional<std::wstring> chooseFile(const FileRequest& request) override;
+    bool setClipboardText(const std::wstring& text) override;
     void beep() override;
     void showWaitCursor() override;
     void restoreCursor() override;

@@ -57,8 +57,11 @@ public:
     std::map<int, std::wstring> specialFolders;
     OsVersion version{6, 1};
     std::vector<std::optional<std::wstring>> fileAnswers;  // consumed in order; cancelled when empty
+    std::vector<MessageAnswer> answers;                    // consumed in order; Ok when empty
+    DateTime clock{2026, 11, 22, 0, 9, 5, 7}, fileTime{2025, 3, 4, 2, 17, 30, 0};
+    std::wstring separator = L",", clipboard;
 
-    // What happened, in order. Messages are answered Ok; shell verbs return 42.
+    // What happened, in order. Shell verbs return 42.
     std::vector<std::wstring> journal;
     std::vector<ShownMessage> messages;
     std::vector<StartedCommand> started;
@@ -81,6 +84,13 @@ public:
         return !lockedFiles.count(path) && files.erase(path);
     }
     std::wstring currentFolder() override { return current; }
+    bool setCurrentFolder(S folder) override {
+        journal.push_back(L"cd " + folder);
+        return folders.count(folder) && (current = folder, true);
+    }
+    std::optional<FileFacts> fileFacts(S path) override {
+        return fileExists(path) ? std::optional(FileFacts{files[path].size(), fileTime}) : std::nullopt;
+    }
     std::wstring lastErrorDescription() override { return errorDescription; }
     std::wstring fromAnsi(const std::string& bytes) override { return DecodeWindows1252(bytes); }
     std::string toAnsi(S text) override { return EncodeWindows1252(text); }
@@ -109,10 +119,24 @@ public:
     }
     std::wstring specialFolder(int csidl) override { return specialFolders[csidl]; }
     OsVersion osVersion() override { return version; }
+    DateTime now() override { return clock; }
+    // The picture and the numbers the locale would have spelt out.
+    std::wstring dateText(const DateTime& t, S picture) override {
+        return L"[" + picture + L"] " + std::to_wstring(t.year) + L"-" + std::to_wstring(t.month) + L"-" +
+               std::to_wstring(t.day) + L" day " + std::to_wstring(t.dayOfWeek);
+    }
+    std::wstring timeText(const DateTime& t, S picture) override {
+        return L"[" + picture + L"] " + std::to_wstring(t.hour) + L":" + std::to_wstring(t.minute) + L":" +
+               std::to_wstring(t.second);
+    }
+    std::wstring thousandsSeparator() override { return separator; }
     MessageAnswer showMessage(S text, S caption, MessageIcon i, MessageButtons b) override {
         journal.push_back(L"message " + text);
         messages.push_back({text, caption, i, b});
-        return MessageAnswer::Ok;
+        if (answers.empty()) return MessageAnswer::Ok;
+        const MessageAnswer answer = answers.front();
+        answers.erase(answers.begin());
+        return answer;
     }
     std::optional<std::wstring> chooseFile(const FileRequest& request) override {
         fileRequests.push_back(request);
@@ -121,6 +145,7 @@ public:
         fileAnswers.erase(fileAnswers.begin());
         return answer;
     }
+    bool setClipboardText(S text) override { clipboard = text; return true; }
     void beep() override { journal.push_back(L"beep"); }
     void showWaitCursor() override { journal.push_back(L"wait"); }
     void restoreCursor() override { journal.push_back(L"cursor"); }

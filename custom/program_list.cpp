@@ -1,0 +1,70 @@
+#include "program_list.h"
+
+#include "app.h"
+#include "conversions.h"
+#include "helpers.h"
+#include "paths.h"
+#include "reports.h"
+
+namespace orvane {
+
+namespace {
+
+// Far beyond any real list, so a huge file costs no more than this to read;
+// only its first 192 lines count.
+constexpr std::size_t kReadLimit = 64u << 20;
+
+CustomProgramTable::Column& Section(CustomProgramTable& table, std::size_t index) {
+    return index == 0 ? table.DisplayNames : index == 1 ? table.ProgramPaths : table.StartupFolders;
+}
+
+}  // namespace
+
+bool CustomProgramTable::isEmpty(std::size_t entry) const { return TrimBlanks(DisplayNames[entry]).empty(); }
+
+bool LoadCustomList(App& app, CustomProgramTable& table) {
+    const std::wstring given = app.settings.CustomListFile;
+    if (!given.empty() && !app.sys.fileExists(given)) {
+        if (std::wstring found = ResolveDocumentPath(app, given); app.sys.fileExists(found))
+            app.settings.CustomListFile = found;
+    }
+    const std::wstring& path = app.settings.CustomListFile;
+    if (path.empty() || !app.sys.fileExists(path)) {
+        ReportFileNotFound(app, given);
+        return false;
+    }
+    table = {};
+    // A file that exists but cannot be opened (locked, no rights) gives an
+    // empty table and no message, as the old reader did.
+    const auto bytes = app.sys.readFile(path, kReadLimit);
+    if (!bytes) return true;
+    std::size_t number = 0;
+    for (std::string_view raw : SplitAtCarriageReturns(*bytes, 3 * kCustomEntries)) {
+        std::wstring line = app.sys.fromAnsi(std::string(raw));
+        if (ContainsIgnoringCase(line, L".exe") && !app.sys.fileExists(line)) SwapProgramFilesFolder(line);
+        Section(table, number / kCustomEntries)[number % kCustomEntries] = std::move(line);
+        ++number;
+    }
+    return true;
+}
+
+std::wstring FormatCustomList(CustomProgramTable& table) {
+    std::wstring text;
+    for (std::size_t section = 0; section < 3; ++section) {
+        for (std::size_t entry = 0; entry < kCustomEntries; ++entry) {
+            std::wstring& value = Section(table, section)[entry];
+            if (section > 0 && table.isEmpty(entry)) value.clear();
+            text += value + L"\r\n";
+        }
+    }
+    return text;
+}
+
+// The whole content is made before the old file goes, as the settings are.
+void SaveCustomList(App& app, CustomProgramTable& table) {
+    const std::string bytes = app.sys.toAnsi(FormatCustomList(table));
+    DeleteFileIfPresent(app, app.settings.CustomListFile);
+    app.sys.writeFile(app.settings.CustomListFile, bytes);
+}
+
+}  // namespace orvane

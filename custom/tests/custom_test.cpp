@@ -1,0 +1,301 @@
+#include <gtest/gtest.h>
+
+#include "app.h"
+#include "fake_system.h"
+#include "file_information.h"
+#include "list_editor.h"
+#include "program_grids.h"
+#include "program_list.h"
+
+namespace orvane {
+namespace {
+
+using testing::FakeSystem;
+
+class Custom : public ::testing::Test {
+protected:
+    Custom() {
+        app.settings.CustomListFile = kList;
+        app.ListFileFilter = L"List files (*.lst)|*.lst";
+    }
+    // The table with these entries named "N<i>", program "C:\P\<i>.exe" and folder "C:\F<i>".
+    static CustomProgramTable Filled(std::initializer_list<std::size_t> entries) {
+        CustomProgramTable table;
+        for (std::size_t i : entries) {
+            table.DisplayNames[i] = L"N" + std::to_wstring(i);
+            table.ProgramPaths[i] = L"C:\\P\\" + std::to_wstring(i) + L".exe";
+            table.StartupFolders[i] = L"C:\\F" + std::to_wstring(i);
+        }
+        return table;
+    }
+    static std::vector<std::string> Lines(const std::string& text) {
+        std::vector<std::string> lines;
+        for (std::size_t at = 0, end; (end = text.find("\r\n", at)) != std::string::npos; at = end + 2)
+            lines.push_back(text.substr(at, end - at));
+        return lines;
+    }
+
+    static constexpr wchar_t kList[] = L"C:\\Lists\\My.lst";
+    FakeSystem sys;
+    App app{sys};
+    CustomProgramTable table;
+};
+
+TEST_F(Custom, SavingWritesTheThreeSectionsOf64LinesAndClearsUnnamedEntriesInMemoryToo) {
+    table = Filled({0, 5, 63});
+    table.DisplayNames[7] = L"   ";  // blanks only: kept as written, but no program or folder
+    table.ProgramPaths[7] = L"C:\\gone.exe";
+    table.StartupFolders[9] = L"C:\\orphan";
+    sys.addFile(kList, std::string(5000, 'x'));  // a longer old file leaves no tail
+    SaveCustomList(app, table);
+    const std::string& file = sys.files[kList];
+    const auto lines = Lines(file);
+    ASSERT_EQ(lines.size(), 192u);
+    EXPECT_EQ(file.size() - file.rfind("\r\n"), 2u) << "the last line ends too";
+    std::vector<int> withText;
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (!lines[i].empty()) withText.push_back(static_cast<int>(i) + 1);
+    EXPECT_EQ(withText, (std::vector<int>{1, 6, 8, 64, 65, 70, 128, 129, 134, 192}));
+    EXPECT_EQ(lines[7], "   ");
+    EXPECT_EQ(table.ProgramPaths[7], L"");
+    EXPECT_EQ(table.StartupFolders[9], L"");
+    EXPECT_EQ(sys.journal, (std::vector<std::wstring>{L"delete C:\\Lists\\My.lst", L"write C:\\Lists\\My.lst"}));
+
+    CustomProgramTable back = Filled({2});
+    ASSERT_TRUE(LoadCustomList(app, back));
+    EXPECT_EQ(back, table) << "read back as saved, the earlier table gone";
+    EXPECT_TRUE(sys.messages.empty());
+}
+
+struct LoadCase {
+    const char* name;
+    std::string content;  // nothing: no file
+    std::wstring listFile = L"C:\\Lists\\My.lst";
+    bool locked = false;
+};
+
+TEST_F(Custom, ReadingShortLongOddAndUnreadableFiles) {
+    std::string hundred;
+    for (int i = 1; i <= 100; ++i) hundred.append("L").append(std::to_string(i)).append("\r\n");
+    const std::string huge = std::string(10 << 20, 'z') + "\r\nsecond";
+    const auto load = [&](const LoadCase& c) {
+        FakeSystem fresh;
+        sys = fresh;
+        app.settings.CustomListFile = c.listFile;
+        if (!c.content.empty() || c.locked) sys.addFile(kList, c.content);
+        if (c.locked) sys.lockedFiles.insert(kList);
+        table = Filled({3});
+        return LoadCustomList(app, table);
+    };
+
+    EXPECT_TRUE(load({"100 lines", hundred}));
+    EXPECT_EQ(table.DisplayNames[63], L"L64");
+    EXPECT_EQ(table.ProgramPaths[35], L"L100");
+    EXPECT_EQ(table.ProgramPaths[36], L"");
+    EXPECT_TRUE(load({"lone CR ends a line, lone LF does not", "a\rb\nc\r\nd"}));
+    EXPECT_EQ(std::vector<std::wstring>(table.DisplayNames.begin(), table.DisplayNames.begin() + 4),
+              (std::vector<std::wstring>{L"a", L"b\nc", L"d", L""}));
+    EXPECT_TRUE(load({"10 MB", huge}));
+    EXPECT_EQ(table.DisplayNames[0].size(), 10u << 20);
+    EXPECT_EQ(table.DisplayNames[1], L"second");
+    EXPECT_TRUE(load({"non-ANSI names", "Caf\xe9 \x80\r\n"}));
+    EXPECT_EQ(table.DisplayNames[0], L"Caf\u00e9 \u20ac");
+    EXPECT_TRUE(load({"locked: empty table, no message", "", kList, true}));
+    EXPECT_EQ(table, CustomProgramTable{});
+    EXPECT_TRUE(sys.messages.empty());
+
+    for (const auto& [listFile, shown] : {std::pair{L"C:\\Lists\\Gone.lst", L"C:\\Lists\\Gone.lst"},
+                                          std::pair{L"", L"( Filename empty! )"}}) {
+        EXPECT_FALSE(load({"missing", "", listFile}));
+        EXPECT_EQ(table, Filled({3})) << "kept";
+        ASSERT_EQ(sys.messages.size(), 1u);
+        EXPECT_EQ(sys.messages[0].text, L"Cannot locate the following program/file:\r\n\r\n" + std::wstring(shown) + L"\r\n\r\n");
+    }
+    // Found in a drive's "Drive_" folder, the list keeps the path it was found under.
+    sys.addFile(L"E:\\Drive_G\\My.lst", "found\r\n");
+    app.settings.CustomListFile = L"G:\\My.lst";
+    ASSERT_TRUE(LoadCustomList(app, table));
+    EXPECT_EQ(std::pair(app.settings.CustomListFile, table.DisplayNames[0]), std::pair(std::wstring(L"E:\\Drive_G\\My.lst"), std::wstring(L"found")));
+}
+
+TEST_F(Custom, MissingProgramFilesPathsAreSwappedForTheirTwinInAnySectionButOnlyInExactCase) {
+    sys.addFile(L"C:\\Program Files (x86)\\A\\a.exe");
+    sys.addFile(L"C:\\Program Files\\B\\b.EXE");
+    sys.addFile(kList, "C:\\Program Files\\A\\a.exe\r\nc:\\program files\\a\\a.exe\r\nC:\\Program Files\\B\\b.EXE\r\n"
+                       "C:\\Program Files (x86)\\C\\c.exe\r\nC:\\Program Files\\D\\readme.txt\r\n");
+    ASSERT_TRUE(LoadCustomList(app, table));
+    EXPECT_EQ(std::vector<std::wstring>(table.DisplayNames.begin(), table.DisplayNames.begin() + 5),
+              (std::vector<std::wstring>{L"C:\\Program Files (x86)\\A\\a.exe", L"c:\\program files\\a\\a.exe",
+                                         L"C:\\Program Files\\B\\b.EXE", L"C:\\Program Files\\C\\c.exe",
+                                         L"C:\\Program Files\\D\\readme.txt"}));
+}
+
+TEST_F(Custom, GridsSplitTheFirstNSlotsHalfToEvenWithTheOddOnesLost) {
+    struct Case { std::vector<std::size_t> named; std::vector<std::size_t> first, second; };
+    const Case cases[] = {
+        {{}, {}, {}},
+        {{0}, {}, {}},
+        {{0, 1}, {0}, {1}},
+        {{0, 1, 2}, {0, 1}, {2}},
+        {{0, 1, 2, 3}, {0, 1}, {2, 3}},
+        {{0, 1, 2, 3, 4}, {0, 1}, {2}},
+        {{0, 1, 2, 3, 4, 5, 6}, {0, 1, 2, 3}, {4, 5, 6}},
+        {{0, 1, 10}, {0, 1}, {2}},  // the empty slot 2 takes a row; slot 10 is not shown
+    };
+    for (const Case& c : cases) {
+        table = {};
+        for (std::size_t i : c.named) table.DisplayNames[i] = L"x";
+        EXPECT_EQ(GridEntries(table, 1), c.first) << c.named.size();
+        EXPECT_EQ(GridEntries(table, 2), c.second) << c.named.size();
+    }
+    table.DisplayNames[0] = L" ";  // counted: only the empty string is absent
+    EXPECT_EQ(SplitForGrids(table).first, 2);
+}
+
+TEST_F(Custom, AnEntryStartsInItsFolderAndTheFolderComesBackABlankRowDoesNothingAMissingProgramIsReported) {
+    table = Filled({0, 1, 2});
+    table.ProgramPaths[0] = L" C:\\P\\0.exe ";
+    table.DisplayNames[2] = L"  ";
+    sys.addFile(L"C:\\P\\0.exe");
+    sys.folders = {L"C:\\F0", L"C:\\Work"};
+    for (std::size_t entry : {0, 1, 2}) LaunchEntry(app, table, entry);
+    EXPECT_EQ(sys.journal, (std::vector<std::wstring>{
+                               L"cd C:\\F0", L"events", L"start C:\\P\\0.exe", L"cd C:\\Work",
+                               L"message Cannot locate the following program/file:\r\n\r\nC:\\P\\1.exe\r\n\r\n",
+                               L"cursor", L"cd C:\\Work"}));
+}
+
+TEST_F(Custom, DeadlinesFromTheGridWindowQuoteTheirFileWithABlank) {
+    sys.addFile(L"C:\\TellmarkSet\\TS_Outliner.exe");
+    sys.addFile(L"C:\\My Docs\\Dates.VRT");
+    app.settings.DeadlinesFile = L"C:\\My Docs\\Dates.VRT";
+    LoadDeadlinesWithArgument(app);
+    app.settings.DeadlinesFile = L"";
+    LoadDeadlinesWithArgument(app);
+    ASSERT_EQ(sys.started.size(), 1u);
+    EXPECT_EQ(sys.started[0].commandLine, L"C:\\TellmarkSet\\TS_Outliner.exe \"C:\\My Docs\\Dates.VRT\"");
+    EXPECT_EQ(sys.messages.size(), 1u);
+}
+
+TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
+    struct Case {
+        const char* name;
+        int line;
+        std::function<bool(CustomListEditor&)> act;
+        std::vector<std::wstring> names;  // of lines 0, 1, 9, 10, 11, 62, 63 afterwards
+        int lineAfter;
+        bool changed;
+    };
+    const auto insert = [](CustomListEditor& e) { e.insertLine(); return true; };
+    const auto remove = [](CustomListEditor& e) { return e.deleteLine(); };
+    const auto up = [](CustomListEditor& e) { return e.moveUp(); };
+    const auto down = [](CustomListEditor& e) { return e.moveDown(); };
+    const Case cases[] = {
+        {"insert drops the last line", 0, insert, {L"", L"N0", L"N8", L"N9", L"N10", L"N61", L"N62"}, 0, true},
+        {"delete doubles the last line", 10, remove, {L"N0", L"N1", L"N9", L"N11", L"N12", L"N63", L"N63"}, 10, true},
+        {"delete of the last line", 63, remove, {L"N0", L"N1", L"N9", L"N10", L"N11", L"N62", L""}, 63, true},
+        {"up", 10, up, {L"N0", L"N1", L"N10", L"N9", L"N11", L"N62", L"N63"}, 9, true},
+        {"up on line 0", 0, up, {L"N0", L"N1", L"N9", L"N10", L"N11", L"N62", L"N63"}, 0, false},
+        {"down", 0, down, {L"N1", L"N0", L"N9", L"N10", L"N11", L"N62", L"N63"}, 1, true},
+        {"down on line 63", 63, down, {L"N0", L"N1", L"N9", L"N10", L"N11", L"N62", L"N63"}, 63, false},
+    };
+    for (const Case& c : cases) {
+        table = {};
+        for (std::size_t i = 0; i < kCustomEntries; ++i) {
+            const std::wstring n = std::to_wstring(i);
+            std::tie(table.DisplayNames[i], table.ProgramPaths[i], table.StartupFolders[i]) = std::tuple(L"N" + n, L"P" + n, L"F" + n);
+        }
+        sys.answers = {MessageAnswer::Yes};
+        CustomListEditor editor(app, table);
+        editor.currentLine = c.line;
+        c.act(editor);
+        std::vector<std::wstring> names;
+        for (std::size_t i : {0, 1, 9, 10, 11, 62, 63}) {
+            names.push_back(table.DisplayNames[i]);
+            EXPECT_EQ(table.ProgramPaths[i], table.DisplayNames[i].empty() ? L"" : L"P" + table.DisplayNames[i].substr(1)) << c.name;
+            EXPECT_EQ(table.StartupFolders[i], L"F" + std::to_wstring(i)) << c.name << ": folders stay with their lines";
+        }
+        EXPECT_EQ(names, c.names) << c.name;
+        EXPECT_EQ(std::pair(editor.currentLine, editor.changed), std::pair(c.lineAfter, c.changed)) << c.name;
+    }
+    ASSERT_EQ(sys.messages.size(), 2u);
+    EXPECT_EQ(sys.messages[0].text, L"Delete this item from the list?\r\n\r\nN10\r\nP10\t\r\n");
+    EXPECT_EQ(sys.messages[0].buttons, MessageButtons::YesNoDefaultNo);
+    sys.answers = {MessageAnswer::No};
+    CustomListEditor editor(app, table);
+    EXPECT_FALSE(editor.deleteLine());
+    EXPECT_FALSE(editor.changed);
+}
+
+TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
+    table = Filled({0, 1});
+    CustomListEditor editor(app, table);
+    editor.setName(1, L"  ");
+    editor.leaveName(1);
+    EXPECT_EQ(table.ProgramPaths[1], L"") << "a blank name takes its program with it";
+    editor.currentLine = 0;
+    editor.takeEntry(L"", L"C:\\Else");
+    EXPECT_EQ(table.StartupFolders[0], L"C:\\F0") << "an empty path returns nothing";
+    editor.takeEntry(L"C:\\Q.exe", L"");
+    EXPECT_EQ(std::pair(table.ProgramPaths[0], table.StartupFolders[0]), std::pair(std::wstring(L"C:\\Q.exe"), std::wstring()));
+
+    // Loading straight away asks nothing; after a change it asks, and Cancel stops everything.
+    sys.addFile(L"C:\\Lists\\Other.lst", "Other\r\n");
+    sys.folders = {L"C:\\Work", L"C:\\Lists"};
+    sys.fileAnswers = {L"C:\\Lists\\Other.lst"};
+    ASSERT_TRUE(editor.loadList());
+    EXPECT_TRUE(sys.messages.empty());
+    EXPECT_EQ(std::pair(sys.fileRequests[0].title, sys.fileRequests[0].folder), std::pair(std::wstring(L"Select list of programs"), std::wstring(L"C:\\Lists")));
+    EXPECT_EQ(table.DisplayNames[0], L"Other");
+    editor.insertLine();
+    sys.answers = {MessageAnswer::Cancel};
+    EXPECT_FALSE(editor.loadList());
+    EXPECT_EQ(sys.messages.at(0).text, L"Save this list of files before loading a new one?\r\n\r\nC:\\Lists\\Other.lst");
+    EXPECT_EQ(sys.fileRequests.size(), 1u);
+
+    sys.fileAnswers = {L"C:\\Lists\\New.lst"};
+    sys.current = L"C:\\Work";
+    ASSERT_TRUE(editor.saveList());
+    const FileRequest& save = sys.fileRequests.back();
+    EXPECT_TRUE(save.save);
+    EXPECT_EQ(save.title + L"|" + save.preset + L"|" + save.folder + L"|" + save.defaultExtension, L"Browse files|Other.lst|C:\\Lists|lst");
+    EXPECT_EQ(Lines(sys.files[L"C:\\Lists\\New.lst"]).at(1), "Other");
+    EXPECT_EQ(EditorCaption(app.settings.CustomListFile), L"Custom programs ( C:\\Lists\\New.lst )");
+    EXPECT_EQ(sys.current, L"C:\\Work") << "the folder comes back";
+    EXPECT_FALSE(editor.changed);
+}
+
+TEST_F(Custom, InformationOfAFileAndWhatIsCopied) {
+    sys.addFile(L"C:\\Lists\\Big.lst", std::string(1234567, 'x'));
+    FileInformation info = InformationOf(app, L"C:\\Lists\\Big.lst");
+    EXPECT_TRUE(info.exists);
+    EXPECT_EQ(InformationText(info), L"File: Big.lst\r\nPath: C:\\Lists\r\n\r\nSize: 1,234,567\r\n"
+                                     L"Altered: [] 2025-3-4 day 2 [] 17:30:0\r\n\r\n"
+                                     L"Time: [HH:mm:ss] 9:5:7\r\nDate: [dddd, MMM d yyyy] 2026-11-22 day 0\r\n");
+    CopyInformation(app, info);
+    EXPECT_EQ(sys.clipboard, InformationText(info));
+    EXPECT_EQ(sys.journal.back(), L"message You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option.");
+
+    sys.addFile(L"C:\\Empty.txt", "");
+    sys.fileTime = {2025, 1, 2, 4, 0, 0, 0};
+    info = InformationOf(app, L"C:\\Empty.txt");
+    EXPECT_EQ(info.size + L"|" + info.altered, L"|[] 2025-1-2 day 4") << "no size for 0 bytes, no time at midnight";
+    info = InformationOf(app, L"C:");
+    EXPECT_EQ(info.fileName + L"|" + info.altered + L"|" + (info.exists ? L"YES" : L"NO"),
+              L"C:\\|(not yet saved / not present on disk)|NO");
+    EXPECT_EQ(GroupedDigits(1234567890, L"."), L"1.234.567.890");
+    EXPECT_EQ(GroupedDigits(999, L","), L"999");
+}
+
+TEST(EntryDialog, X86IsTakenOutOrPutInAfterThe16thCharacter) {
+    for (const auto& [path, toggled] :
+         {std::pair<std::wstring, std::wstring>{L"C:\\Program Files\\A\\a.exe", L"C:\\Program Files (x86)\\A\\a.exe"},
+          {L"D:\\Tools\\Editors\\e.exe", L"D:\\Tools\\Editors (x86)\\e.exe"},
+          {L"C:\\a.exe", L"C:\\a.exe (x86)"}}) {
+        EXPECT_EQ(ToggleX86(path), toggled);
+        EXPECT_EQ(ToggleX86(toggled), path);
+    }
+}
+
+}  // namespace
+}  // namespace orvane
