@@ -1,7 +1,11 @@
 #include "orvane_process.h"
 
+#include <commctrl.h>
+
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <sstream>
 
 #include "win_support.h"
@@ -13,10 +17,12 @@ using namespace testsupport;
 ProgramFolder::ProgramFolder(const std::wstring& name)
     : path_(FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), name)) {
     CopyInto(EnvironmentPath(L"ORVANE_EXE"), path_);
-    // The built skins: the default one, and others (a dark one among them) to choose.
+    // The built skins: the default one, and others (a dark one among them) to choose; and the hand cursor.
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(EnvironmentPath(L"ORVANE_SKINS"), error))
-        if (entry.path().filename().wstring().starts_with(L"Skin_")) CopyInto(entry.path().wstring(), path_);
+    for (const auto& entry : std::filesystem::directory_iterator(EnvironmentPath(L"ORVANE_SKINS"), error)) {
+        const std::wstring file = entry.path().filename().wstring();
+        if (file.starts_with(L"Skin_") || file == L"HandOpen.ico") CopyInto(entry.path().wstring(), path_);
+    }
 }
 
 OrvaneProcess::OrvaneProcess(const ProgramFolder& folder) {
@@ -151,6 +157,64 @@ bool AnswerFileDialog(HWND dialog, const std::wstring& fileName) {
     SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(fileName.c_str()));
     PressButton(dialog, IDOK);
     return true;
+}
+
+std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
+    // The list writes the text through the item's pointer in its own process,
+    // so the item and the buffer are placed there and the text read back.
+    constexpr int kChars = 1024;
+    DWORD processId = 0;
+    GetWindowThreadProcessId(listView, &processId);
+    const std::unique_ptr<void, decltype(&CloseHandle)> process(
+        OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, processId), CloseHandle);
+    if (!process) return {};
+    const auto release = [&](void* block) { VirtualFreeEx(process.get(), block, 0, MEM_RELEASE); };
+    const std::unique_ptr<void, decltype(release)> block(
+        VirtualAllocEx(process.get(), nullptr, sizeof(LVITEMW) + kChars * sizeof(wchar_t), MEM_COMMIT | MEM_RESERVE,
+                       PAGE_READWRITE),
+        release);
+    if (!block) return {};
+    auto* remoteText = reinterpret_cast<wchar_t*>(static_cast<char*>(block.get()) + sizeof(LVITEMW));
+
+    std::vector<std::wstring> texts;
+    const int rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0));
+    for (int row = 0; row < rows; ++row) {
+        // Written for every row: the list may change the item it is handed.
+        LVITEMW item{};
+        item.mask = LVIF_TEXT;
+        item.iSubItem = column;
+        item.pszText = remoteText;
+        item.cchTextMax = kChars;
+        std::wstring text;
+        if (WriteProcessMemory(process.get(), block.get(), &item, sizeof item, nullptr)) {
+            const auto length = static_cast<std::size_t>(
+                SendMessageW(listView, LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(block.get())));
+            text.resize(std::min<std::size_t>(length, kChars - 1));
+            if (!ReadProcessMemory(process.get(), remoteText, text.data(), text.size() * sizeof(wchar_t), nullptr))
+                text.clear();
+        }
+        texts.push_back(text.substr(0, text.find(L'\0')));
+    }
+    return texts;
+}
+
+int ListViewCurrentRow(HWND listView) {
+    return static_cast<int>(
+        SendMessageW(listView, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), MAKELPARAM(LVNI_FOCUSED, 0)));
+}
+
+std::wstring ClipboardText() {
+    // The program that just copied, or Wine's bridge to the X selection, may hold it a moment.
+    if (!WaitFor([] { return OpenClipboard(nullptr) != FALSE; }, 1s)) return {};
+    std::wstring text;
+    if (HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+        if (const auto* chars = static_cast<const wchar_t*>(GlobalLock(data))) {
+            text.assign(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t)));
+            GlobalUnlock(data);
+        }
+    }
+    CloseClipboard();
+    return text;
 }
 
 }  // namespace orvane::e2e
