@@ -1,6 +1,7 @@
 // driver.exe: steps of the end-to-end harness for scripts, e.g. the demo run.
 //   driver.exe wait-bar    waits until a bar is shown
 //   driver.exe open-menu   opens the bar's first menu from the keyboard
+//   driver.exe pick CAPTION  picks the bar's menu item with this caption, as a click does
 //   driver.exe close-bar   closes the bar as its close box does and waits until it has ended
 #include <cstdio>
 #include <string>
@@ -12,8 +13,8 @@ using namespace orvane;
 
 int wmain(int argc, wchar_t** argv) {
     const std::wstring step = argc > 1 ? argv[1] : L"";
-    if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar") {
-        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | close-bar\n");
+    if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar" && !(step == L"pick" && argc > 2)) {
+        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | close-bar\n");
         return 2;
     }
     HWND bar = nullptr;
@@ -21,6 +22,7 @@ int wmain(int argc, wchar_t** argv) {
                          std::chrono::seconds(step == L"close-bar" ? 0 : 30));
     if (!bar) return 1;
     if (step == L"open-menu") e2e::PressKeys(bar, {VK_MENU, 'F'});
+    if (step == L"pick") return e2e::PickMenuItem(bar, argv[2]) ? 0 : 1;
     if (step != L"close-bar") return 0;
     DWORD processId = 0;
     GetWindowThreadProcessId(bar, &processId);

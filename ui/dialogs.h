@@ -10,6 +10,8 @@
 
 namespace orvane {
 class App;
+class MainCommands;
+struct CustomProgramTable;
 }
 
 namespace orvane::ui {
@@ -35,6 +37,21 @@ struct SkinChooserActions {
     std::function<void()> applySkin;          // applies app.settings.SkinFile to every open window
     std::function<void()> adjustMenuColours;  // the menu bar takes the current skin's colours
 };
+// frmCustomPrograms: the table's programs in two grids, started by Enter or a double click.
+void ShowCustomPrograms(App& app, CustomProgramTable& table, MainCommands& commands, HWND owner);
+// frmCustomList: edits the table in place; what is not saved is read back from the file by the caller.
+void ShowCustomListEditor(App& app, CustomProgramTable& table, HWND owner);
+// frmGetFullInfo: the program and startup folder of an entry, as chosen; nothing when cancelled.
+struct EntryChoice {
+    std::wstring program, folder;
+};
+std::optional<EntryChoice> ShowEntryDialog(App& app, HWND owner, const CustomProgramTable& table, int entry);
+// frmTxtInfo: facts about a file, to copy, inspect or explore.
+void ShowFileInformation(App& app, HWND owner, const std::wstring& path);
+
+// The shell's folder dialog, starting at the given folder; nothing when cancelled.
+std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& title, const std::wstring& start);
+
 // frmChooseSkin, titled "Change skin": the skins of SkinFolder with a preview.
 void ShowSkinChooser(App& app, HWND owner, const SkinChooserActions& actions);
 

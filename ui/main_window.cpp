@@ -323,7 +323,7 @@ void MainWindow::chooseMenuFont() {
     s.ListFontBold = chosen->bold ? -1 : 0;
     buildMenuBar();  // the items are measured anew in the new font
 }
-void MainWindow::showCustomPrograms() {}    // the custom programs window comes later
+void MainWindow::showCustomPrograms() { ShowCustomPrograms(app_, customPrograms_, commands_, hwnd()); }
 void MainWindow::showWebList() {}           // the web list window comes later
 void MainWindow::showWallpaper() {}         // the wallpaper window comes later
 

@@ -9,6 +9,7 @@
 #include "layout.h"
 #include "lifecycle.h"
 #include "menu_bar.h"
+#include "program_list.h"
 #include "window_base.h"
 
 namespace orvane::ui {
@@ -81,6 +82,8 @@ private:
     void showWallpaper() override;
 
     App& app_;
+    // The user's own programs, shared by the windows that show and edit them.
+    CustomProgramTable customPrograms_;
     MenuBar menuBar_;
     MainCommands commands_{app_, *this};
     IconStrip strip_{[this](int index) { commands_.runIcon(index); }};

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "dpi.h"
-#include "menu.h"
 #include "skin.h"
 
 namespace orvane::ui {
@@ -45,10 +44,22 @@ HFONT MenuFont(UINT dpi, const std::wstring& name, int points, bool bold) {
     return CreateFontIndirectW(&font);
 }
 
+// The item as the system keeps it: its caption, its row in data, drawn by us.
+MENUITEMINFOW ItemInfo(const MenuRow& row, std::size_t index, const std::wstring& text) {
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_DATA | (row.isSeparator() ? 0 : MIIM_STRING);
+    item.fType = MFT_OWNERDRAW | (row.isSeparator() ? MFT_SEPARATOR : 0);
+    item.wID = kFirstMenuCommand + static_cast<UINT>(index);
+    item.dwItemData = index;
+    item.dwTypeData = const_cast<wchar_t*>(text.c_str());
+    return item;
+}
+
 }  // namespace
 
 void MenuBar::build(HWND window) {
-    const auto rows = MainMenuRows();
+    const auto rows = rows_;
     HMENU bar = CreateMenu();
     std::map<std::wstring_view, HMENU> menus;
     std::vector<ACCEL> shortcuts;
@@ -56,13 +67,7 @@ void MenuBar::build(HWND window) {
         const MenuRow& row = rows[i];
         const UINT command = kFirstMenuCommand + static_cast<UINT>(i);
         const std::wstring text = ItemText(row);
-        MENUITEMINFOW item{};
-        item.cbSize = sizeof item;
-        item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_DATA | (row.isSeparator() ? 0 : MIIM_STRING);
-        item.fType = MFT_OWNERDRAW | (row.isSeparator() ? MFT_SEPARATOR : 0);
-        item.wID = command;
-        item.dwItemData = i;
-        item.dwTypeData = const_cast<wchar_t*>(text.c_str());
+        MENUITEMINFOW item = ItemInfo(row, i, text);
         if (row.parentKey.empty() && HasItems(rows, row.key)) {
             item.fMask |= MIIM_SUBMENU;
             item.hSubMenu = menus[row.key] = CreatePopupMenu();
@@ -72,12 +77,36 @@ void MenuBar::build(HWND window) {
         if (row.shortcut.key)
             shortcuts.push_back({AcceleratorFlags(row.shortcut), row.shortcut.key, static_cast<WORD>(command)});
     }
-    accelerators_.reset(CreateAcceleratorTableW(shortcuts.data(), static_cast<int>(shortcuts.size())));
+    accelerators_.reset(shortcuts.empty() ? nullptr
+                                          : CreateAcceleratorTableW(shortcuts.data(), static_cast<int>(shortcuts.size())));
     forgetSizedResources(window);
     HMENU previous = GetMenu(window);
     SetMenu(window, bar);  // the window owns it from now on
     if (previous) DestroyMenu(previous);
     setColours(window, colours_);
+}
+
+std::wstring MenuBar::popup(HWND owner, POINT at) {
+    forgetSizedResources(owner);
+    UniqueMenu menu(CreatePopupMenu());
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const std::wstring text = ItemText(rows_[i]);
+        const MENUITEMINFOW item = ItemInfo(rows_[i], i, text);
+        InsertMenuItemW(menu.get(), static_cast<UINT>(i), TRUE, &item);
+    }
+    MENUINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIM_BACKGROUND;
+    info.hbrBack = menuBrush_ ? menuBrush_.get() : nullptr;
+    SetMenuInfo(menu.get(), &info);
+    popup_ = true;
+    const UINT picked = static_cast<UINT>(
+        TrackPopupMenuEx(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, owner, nullptr));
+    popup_ = false;
+    wchar_t text[256] = {};
+    const int length = picked ? GetMenuStringW(menu.get(), picked, text, 256, MF_BYCOMMAND) : 0;
+    const std::wstring caption(text, length > 0 ? static_cast<std::size_t>(length) : 0);
+    return caption.substr(0, caption.find(L'\t'));
 }
 
 void MenuBar::setColours(HWND window, const MenuColours& colours) {
@@ -150,10 +179,10 @@ LRESULT MenuBar::menuChar(wchar_t letter, HMENU menu) const {
 }
 
 bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
-    const auto rows = MainMenuRows();
+    const auto rows = rows_;
     if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;
     const MenuRow& row = rows[item.itemData];
-    const bool onBar = row.parentKey.empty();
+    const bool onBar = this->onBar(row);
     if (row.isSeparator()) {
         item.itemWidth = 0;
         item.itemHeight = scaled(7);
@@ -180,12 +209,12 @@ bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
 }
 
 bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
-    const auto rows = MainMenuRows();
+    const auto rows = rows_;
     if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;
     const MenuRow& row = rows[item.itemData];
     HDC dc = item.hDC;
     RECT r = item.rcItem;
-    if (row.parentKey.empty()) {
+    if (onBar(row)) {
         drawBarItem(item, std::wstring(row.caption));
         return true;
     }

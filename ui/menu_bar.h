@@ -1,16 +1,18 @@
-// The main window's menu bar and keyboard shortcuts, built from the launcher's
-// menu rows. Every item is owner-drawn, in the skin's colours and the chosen
-// font, but keeps its caption string, so the dispatch, screen readers and
-// tests read the real caption.
+// A window's menu bar and keyboard shortcuts, or a popup menu, built from menu
+// rows (the main window's by default). Every item is owner-drawn, in the
+// skin's colours and the chosen font, but keeps its caption string, so the
+// dispatch, screen readers and tests read the real caption.
 #pragma once
 
 #include <windows.h>
 
 #include <array>
+#include <span>
 #include <string>
 
 #include "appearance.h"
 #include "handles.h"
+#include "menu.h"
 
 namespace orvane::ui {
 
@@ -21,6 +23,8 @@ inline constexpr int kFirstMenuIcon = 1000;
 
 class MenuBar {
 public:
+    explicit MenuBar(std::span<const MenuRow> rows = MainMenuRows()) : rows_(rows) {}
+
     // Builds the bar, gives it to the window and makes the shortcut table.
     void build(HWND window);
     // Fonts, icons and item sizes follow the window's new DPI.
@@ -30,6 +34,10 @@ public:
     // The font of the items, in points; an empty name is the system's menu font.
     // Takes effect when the bar is next built.
     void setFont(const std::wstring& name, int points, bool bold);
+
+    // Shows the rows as a popup menu at this point of the screen; the picked
+    // item's caption, or nothing. The owner passes on the drawing messages.
+    std::wstring popup(HWND owner, POINT at);
 
     HACCEL accelerators() const { return accelerators_.get(); }
     // The clicked item's caption, without the shortcut text after its tab.
@@ -49,6 +57,10 @@ private:
     void drawBarItem(const DRAWITEMSTRUCT& item, const std::wstring& caption) const;
     int scaled(int pixelsAt96) const { return MulDiv(pixelsAt96, static_cast<int>(dpi_), 96); }
 
+    bool onBar(const MenuRow& row) const { return !popup_ && row.parentKey.empty(); }
+
+    std::span<const MenuRow> rows_;
+    bool popup_ = false;  // while a popup is shown, every row is an item of it
     UniqueAccelerators accelerators_;
     mutable UniqueFont font_;
     std::wstring fontName_;

@@ -47,7 +47,7 @@ INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LP
         self = reinterpret_cast<ModalDialog*>(lParam);
         SetWindowLongPtrW(window, DWLP_USER, lParam);
         self->window_ = window;
-        CentreOver(window, GetWindow(window, GW_OWNER));
+        CentreOver(window, self->centreOver_ ? self->centreOver_ : GetWindow(window, GW_OWNER));
         Skin::instance().join(window);
         self->onInit();
         return TRUE;

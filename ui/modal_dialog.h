@@ -18,6 +18,8 @@ public:
 
     // Returns the identifier the dialog ended with.
     INT_PTR show(HWND owner, int templateId);
+    // Centres the dialog over this window instead of its owner.
+    void centreOver(HWND window) { centreOver_ = window; }
 
 protected:
     HWND hwnd() const { return window_; }
@@ -34,6 +36,7 @@ protected:
 private:
     static INT_PTR CALLBACK route(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     HWND window_ = nullptr;
+    HWND centreOver_ = nullptr;
 };
 
 }  // namespace orvane::ui

@@ -1,7 +1,5 @@
 // frmChooseSkin: the skins of the skin folder, a preview of the selected one,
 // and the commands that apply it. What is applied stays applied on exit.
-#include <shldisp.h>
-
 #include <optional>
 
 #include "app.h"
@@ -16,33 +14,6 @@
 namespace orvane::ui {
 
 namespace {
-
-constexpr long kFileSystemFoldersOnly = 1;
-
-// The shell's folder dialog, starting at the given folder; nothing when cancelled.
-std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& start) {
-    const auto shell = CreateShellObject<IShellDispatch>(IID_IShellDispatch);
-    if (!shell) return std::nullopt;
-    const UniqueBstr title(AllocateBstr(L"Select a folder")), root(AllocateBstr(start.c_str()));
-    VARIANT rootFolder{};
-    rootFolder.vt = VT_BSTR;
-    rootFolder.bstrVal = root.get();
-    Folder* chosen = nullptr;
-    if (FAILED(shell->BrowseForFolder(HandleToLong(owner), title.get(), kFileSystemFoldersOnly, rootFolder, &chosen)) ||
-        !chosen)
-        return std::nullopt;
-    const ComPointer<Folder> folder(chosen);
-    Folder2* withSelf = nullptr;
-    if (FAILED(folder->QueryInterface(IID_Folder2, reinterpret_cast<void**>(&withSelf)))) return std::nullopt;
-    const ComPointer<Folder2> folder2(withSelf);
-    FolderItem* self = nullptr;
-    if (FAILED(folder2->get_Self(&self)) || !self) return std::nullopt;
-    const ComPointer<FolderItem> item(self);
-    BSTR path = nullptr;
-    if (FAILED(item->get_Path(&path))) return std::nullopt;
-    const UniqueBstr owned(path);
-    return std::wstring(path ? path : L"");
-}
 
 class SkinChooser : public ModalDialog {
 public:
@@ -91,7 +62,7 @@ private:
 
     void chooseFolder() {
         // Owned by the chooser, so the chooser cannot be used or closed while it is open.
-        const auto folder = BrowseForFolder(hwnd(), app_.sys.currentFolder());
+        const auto folder = BrowseForFolder(hwnd(), L"Select a folder", app_.sys.currentFolder());
         if (!folder || folder->empty()) return;
         app_.settings.SkinFolder = *folder;
         setItemText(IDC_SKIN_FOLDER, *folder);

@@ -47,6 +47,12 @@ ensure_wine_prefix() {
   # laid out in a stand-in font and caption buttons draw as letters.
   local fonts="$WINEPREFIX/drive_c/windows/Fonts"
   [ -f "$fonts/marlett.ttf" ] || cp /usr/share/wine/fonts/*.ttf "$fonts/"
+  # The shell finds a program's own icon through the ".exe" class, which a new
+  # prefix lacks: without it every program shows the generic icon.
+  if ! grep -q '^\[Software\\\\Classes\\\\.exe\]' "$WINEPREFIX/system.reg"; then
+    wine reg add 'HKCR\.exe' /ve /d exefile /f >/dev/null 2>&1
+    wineserver -w
+  fi
 }
 
 # Runs a command with a private X server, and a Wine server started for it
