@@ -2,6 +2,7 @@
 //   driver.exe wait-bar    waits until a bar is shown
 //   driver.exe open-menu   opens the bar's first menu from the keyboard
 //   driver.exe pick CAPTION  picks the bar's menu item with this caption, as a click does
+//   driver.exe rect TITLE  prints a dialog's place on the screen as WxH+X+Y, once it is shown
 //   driver.exe close-bar   closes the bar as its close box does and waits until it has ended
 #include <cstdio>
 #include <string>
@@ -13,8 +14,17 @@ using namespace orvane;
 
 int wmain(int argc, wchar_t** argv) {
     const std::wstring step = argc > 1 ? argv[1] : L"";
+    if (step == L"rect" && argc > 2) {
+        HWND dialog = nullptr;
+        testsupport::WaitFor([&] { return (dialog = FindWindowW(e2e::kDialogClass, argv[2])) && IsWindowVisible(dialog); },
+                             std::chrono::seconds(30));
+        RECT r{};
+        if (!dialog || !GetWindowRect(dialog, &r)) return 1;
+        std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top);
+        return 0;
+    }
     if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar" && !(step == L"pick" && argc > 2)) {
-        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | close-bar\n");
+        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | close-bar\n");
         return 2;
     }
     HWND bar = nullptr;

@@ -98,7 +98,7 @@ int ProgramGrid::iconOf(int row) {
     if (icon == kUnknownIcon) {
         icon = -1;
         if (!TrimBlanks(names_[static_cast<std::size_t>(row)]).empty())
-            SystemImageList(programs_[static_cast<std::size_t>(row)], icon);
+            if (HIMAGELIST images = SystemImageList(programs_[static_cast<std::size_t>(row)], icon)) images_ = images;
     }
     return icon;
 }
@@ -122,11 +122,10 @@ void ProgramGrid::drawRow(HDC dc, int row, UINT state) {
     const bool iconEntered = hot_.x == row && hot_.y == 0, nameEntered = hot_.x == row && hot_.y == 1;
 
     FillColour(dc, icon, iconEntered ? kEnteredBack : GetSysColor(COLOR_WINDOW));
-    int index = iconOf(row);
-    if (HIMAGELIST images = index >= 0 ? SystemImageList(programs_[static_cast<std::size_t>(row)], index) : nullptr) {
+    if (const int index = iconOf(row); index >= 0 && images_) {
         int width = 0, height = 0;
-        ImageList_GetIconSize(images, &width, &height);
-        ImageList_Draw(images, index, dc, (icon.left + icon.right - width) / 2, (icon.top + icon.bottom - height) / 2,
+        ImageList_GetIconSize(images_, &width, &height);
+        ImageList_Draw(images_, index, dc, (icon.left + icon.right - width) / 2, (icon.top + icon.bottom - height) / 2,
                        ILD_TRANSPARENT);
     }
 

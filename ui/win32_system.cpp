@@ -74,6 +74,12 @@ bool Win32System::remember(bool ok) {
 
 bool Win32System::fileExists(const std::wstring& path) {
     if (path.empty()) return false;
+    // A path without wildcards matches only itself: its attributes answer at a
+    // fraction of a search's cost.
+    if (path.find_first_of(L"*?") == std::wstring::npos) {
+        const DWORD attributes = GetFileAttributesW(path.c_str());
+        return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+    }
     WIN32_FIND_DATAW found;
     UniqueFind search(FindFirstFileW(path.c_str(), &found));
     return search && !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);

@@ -137,9 +137,9 @@ COLORREF ScreenColour(POINT point) {
     return colour;
 }
 
-HWND WaitForDialogTitled(DWORD processId, const std::wstring& title) {
+HWND WaitForDialogTitled(DWORD processId, const std::wstring& title, std::chrono::milliseconds timeout) {
     HWND dialog = nullptr;
-    WaitFor([&] { return (dialog = FindProcessWindow(processId, kDialogClass, title.c_str())) != nullptr; }, 15s);
+    WaitFor([&] { return (dialog = FindProcessWindow(processId, kDialogClass, title.c_str())) != nullptr; }, timeout);
     return dialog;
 }
 

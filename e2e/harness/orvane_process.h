@@ -107,7 +107,7 @@ void ClickAt(POINT point);
 COLORREF ScreenColour(POINT point);
 
 // The first visible dialog of the process with this title.
-HWND WaitForDialogTitled(DWORD processId, const std::wstring& title);
+HWND WaitForDialogTitled(DWORD processId, const std::wstring& title, std::chrono::milliseconds timeout = 15s);
 std::wstring ControlText(HWND dialog, int id);
 void SetControlText(HWND dialog, int id, const std::wstring& text);
 // Types a file name into a file-open dialog and presses its Open button.

@@ -33,11 +33,15 @@ TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
         {file, true, true},          {folder, false, true},   {folder + L"\\", false, true},
         {L"C:\\", false, true},      {L"", false, false},     {folder + L"\\missing.txt", false, false},
         {folder + L"\\missing", false, false},
+        {folder + L"\\a*.t?t", true, false},  // a search, as the old runtime's existence test was
     };
     for (const auto& [path, isFile, exists] : paths) {
         EXPECT_EQ(sys.fileExists(path), isFile) << Utf8(path);
         EXPECT_EQ(sys.pathExists(path), exists) << Utf8(path);
     }
+    EXPECT_EQ(sys.fileFacts(file)->size, 1u);
+    EXPECT_EQ(sys.fileFacts(file)->lastChange.year, sys.now().year);
+    EXPECT_FALSE(sys.fileFacts(folder).has_value());
 }
 
 TEST_F(RealSystem, BytesReadBackExactlyAndALockedFileIsNeitherReadNorWrittenNorDeleted) {
