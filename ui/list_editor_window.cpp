@@ -79,8 +79,15 @@ private:
     HWND field(int id) const { return GetDlgItem(panel(), id); }
 
     void onInit() override {
+        // The menu bar takes its height from the client area: the window grows by as much.
+        RECT before{}, after{}, outer{};
+        GetClientRect(hwnd(), &before);
         menu_.setColours(hwnd(), Skin::instance().menuColours());
         menu_.build(hwnd());
+        GetClientRect(hwnd(), &after);
+        GetWindowRect(hwnd(), &outer);
+        SetWindowPos(hwnd(), nullptr, 0, 0, outer.right - outer.left,
+                     outer.bottom - outer.top + (before.bottom - after.bottom), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
         createLines();
         if (LoadCustomList(app_, table_)) refill();
         showCaption();
@@ -104,7 +111,7 @@ private:
             SendMessageW(control, WM_SETFONT, font, FALSE);
             return control;
         };
-        make(L"STATIC", SS_CENTER | SS_CENTERIMAGE, 0, IDC_LINE_MARKER, L"\u25BA", 0, 0, marker);
+        make(L"STATIC", SS_CENTER | SS_CENTERIMAGE, 0, IDC_LINE_MARKER, L"\u00BB", 0, 0, marker);
         for (int line = 0; line < kLines; ++line) {
             const int y = line * pitch + (pitch - height) / 2;
             make(L"STATIC", SS_RIGHT | SS_CENTERIMAGE, 0, IDC_FIRST_LINE_NUMBER + line, std::to_wstring(line + 1), marker, y,
