@@ -67,46 +67,39 @@ TEST_F(Custom, SavingWritesTheThreeSectionsOf64LinesAndClearsUnnamedEntriesInMem
     EXPECT_TRUE(sys.messages.empty());
 }
 
-struct LoadCase {
-    const char* name;
-    std::string content;  // nothing: no file
-    std::wstring listFile = L"C:\\Lists\\My.lst";
-    bool locked = false;
-};
-
 TEST_F(Custom, ReadingShortLongOddAndUnreadableFiles) {
     std::string hundred;
     for (int i = 1; i <= 100; ++i) hundred.append("L").append(std::to_string(i)).append("\r\n");
     const std::string huge = std::string(10 << 20, 'z') + "\r\nsecond";
-    const auto load = [&](const LoadCase& c) {
-        FakeSystem fresh;
-        sys = fresh;
-        app.settings.CustomListFile = c.listFile;
-        if (!c.content.empty() || c.locked) sys.addFile(kList, c.content);
-        if (c.locked) sys.lockedFiles.insert(kList);
+    // The content of the list file (none: no file), read from the given path, the file locked or not.
+    const auto load = [&](const std::string& content, const std::wstring& listFile = kList, bool locked = false) {
+        sys = FakeSystem();
+        app.settings.CustomListFile = listFile;
+        if (!content.empty() || locked) sys.addFile(kList, content);
+        if (locked) sys.lockedFiles.insert(kList);
         table = Filled({3});
         return LoadCustomList(app, table);
     };
 
-    EXPECT_TRUE(load({"100 lines", hundred}));
+    EXPECT_TRUE(load(hundred));
     EXPECT_EQ(table.DisplayNames[63], L"L64");
     EXPECT_EQ(table.ProgramPaths[35], L"L100");
     EXPECT_EQ(table.ProgramPaths[36], L"");
-    EXPECT_TRUE(load({"lone CR ends a line, lone LF does not", "a\rb\nc\r\nd"}));
+    EXPECT_TRUE(load("a\rb\nc\r\nd")) << "a lone CR ends a line, a lone LF does not";
     EXPECT_EQ(std::vector<std::wstring>(table.DisplayNames.begin(), table.DisplayNames.begin() + 4),
               (std::vector<std::wstring>{L"a", L"b\nc", L"d", L""}));
-    EXPECT_TRUE(load({"10 MB", huge}));
+    EXPECT_TRUE(load(huge));
     EXPECT_EQ(table.DisplayNames[0].size(), 10u << 20);
     EXPECT_EQ(table.DisplayNames[1], L"second");
-    EXPECT_TRUE(load({"non-ANSI names", "Caf\xe9 \x80\r\n"}));
+    EXPECT_TRUE(load("Caf\xe9 \x80\r\n"));
     EXPECT_EQ(table.DisplayNames[0], L"Caf\u00e9 \u20ac");
-    EXPECT_TRUE(load({"locked: empty table, no message", "", kList, true}));
+    EXPECT_TRUE(load("", kList, true)) << "locked: an empty table and no message";
     EXPECT_EQ(table, CustomProgramTable{});
     EXPECT_TRUE(sys.messages.empty());
 
     for (const auto& [listFile, shown] : {std::pair{L"C:\\Lists\\Gone.lst", L"C:\\Lists\\Gone.lst"},
                                           std::pair{L"", L"( Filename empty! )"}}) {
-        EXPECT_FALSE(load({"missing", "", listFile}));
+        EXPECT_FALSE(load("", listFile));
         EXPECT_EQ(table, Filled({3})) << "kept";
         ASSERT_EQ(sys.messages.size(), 1u);
         EXPECT_EQ(sys.messages[0].text, L"Cannot locate the following program/file:\r\n\r\n" + std::wstring(shown) + L"\r\n\r\n");
@@ -152,7 +145,7 @@ TEST_F(Custom, GridsSplitTheFirstNSlotsHalfToEvenWithTheOddOnesLost) {
     EXPECT_EQ(SplitForGrids(table).first, 2);
 }
 
-TEST_F(Custom, AnEntryStartsInItsFolderAndTheFolderComesBackABlankRowDoesNothingAMissingProgramIsReported) {
+TEST_F(Custom, AnEntryStartsInItsFolderBlankRowsDoNothingMissingProgramsAreReportedDeadlinesAreQuoted) {
     table = Filled({0, 1, 2});
     table.ProgramPaths[0] = L" C:\\P\\0.exe ";
     table.DisplayNames[2] = L"  ";
@@ -163,33 +156,25 @@ TEST_F(Custom, AnEntryStartsInItsFolderAndTheFolderComesBackABlankRowDoesNothing
                                L"cd C:\\F0", L"events", L"start C:\\P\\0.exe", L"cd C:\\Work",
                                L"message Cannot locate the following program/file:\r\n\r\nC:\\P\\1.exe\r\n\r\n",
                                L"cursor", L"cd C:\\Work"}));
-}
 
-TEST_F(Custom, DeadlinesFromTheGridWindowQuoteTheirFileWithABlank) {
     sys.addFile(L"C:\\TellmarkSet\\TS_Outliner.exe");
-    sys.addFile(L"C:\\My Docs\\Dates.VRT");
-    app.settings.DeadlinesFile = L"C:\\My Docs\\Dates.VRT";
+    sys.addFile(app.settings.DeadlinesFile = L"C:\\My Docs\\Dates.VRT");
     LoadDeadlinesWithArgument(app);
-    app.settings.DeadlinesFile = L"";
-    LoadDeadlinesWithArgument(app);
-    ASSERT_EQ(sys.started.size(), 1u);
-    EXPECT_EQ(sys.started[0].commandLine, L"C:\\TellmarkSet\\TS_Outliner.exe \"C:\\My Docs\\Dates.VRT\"");
-    EXPECT_EQ(sys.messages.size(), 1u);
+    EXPECT_EQ(sys.started.back().commandLine, L"C:\\TellmarkSet\\TS_Outliner.exe \"C:\\My Docs\\Dates.VRT\"");
 }
 
 TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
+    using Act = bool (CustomListEditor::*)();
     struct Case {
         const char* name;
         int line;
-        std::function<bool(CustomListEditor&)> act;
+        Act act;
         std::vector<std::wstring> names;  // of lines 0, 1, 9, 10, 11, 62, 63 afterwards
         int lineAfter;
         bool changed;
     };
-    const auto insert = [](CustomListEditor& e) { e.insertLine(); return true; };
-    const auto remove = [](CustomListEditor& e) { return e.deleteLine(); };
-    const auto up = [](CustomListEditor& e) { return e.moveUp(); };
-    const auto down = [](CustomListEditor& e) { return e.moveDown(); };
+    const Act insert = nullptr, remove = &CustomListEditor::deleteLine, up = &CustomListEditor::moveUp,
+              down = &CustomListEditor::moveDown;  // insert: insertLine, which always acts
     const Case cases[] = {
         {"insert drops the last line", 0, insert, {L"", L"N0", L"N8", L"N9", L"N10", L"N61", L"N62"}, 0, true},
         {"delete doubles the last line", 10, remove, {L"N0", L"N1", L"N9", L"N11", L"N12", L"N63", L"N63"}, 10, true},
@@ -208,7 +193,7 @@ TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
         sys.answers = {MessageAnswer::Yes};
         CustomListEditor editor(app, table);
         editor.currentLine = c.line;
-        c.act(editor);
+        c.act ? (editor.*c.act)() : (editor.insertLine(), true);
         std::vector<std::wstring> names;
         for (std::size_t i : {0, 1, 9, 10, 11, 62, 63}) {
             names.push_back(table.DisplayNames[i]);
@@ -265,7 +250,7 @@ TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
     EXPECT_FALSE(editor.changed);
 }
 
-TEST_F(Custom, InformationOfAFileAndWhatIsCopied) {
+TEST_F(Custom, InformationOfAFileWhatIsCopiedAndTheX86Toggle) {
     sys.addFile(L"C:\\Lists\\Big.lst", std::string(1234567, 'x'));
     FileInformation info = InformationOf(app, L"C:\\Lists\\Big.lst");
     EXPECT_TRUE(info.exists);
@@ -285,9 +270,6 @@ TEST_F(Custom, InformationOfAFileAndWhatIsCopied) {
               L"C:\\|(not yet saved / not present on disk)|NO");
     EXPECT_EQ(GroupedDigits(1234567890, L"."), L"1.234.567.890");
     EXPECT_EQ(GroupedDigits(999, L","), L"999");
-}
-
-TEST(EntryDialog, X86IsTakenOutOrPutInAfterThe16thCharacter) {
     for (const auto& [path, toggled] :
          {std::pair<std::wstring, std::wstring>{L"C:\\Program Files\\A\\a.exe", L"C:\\Program Files (x86)\\A\\a.exe"},
           {L"D:\\Tools\\Editors\\e.exe", L"D:\\Tools\\Editors (x86)\\e.exe"},

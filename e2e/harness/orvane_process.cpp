@@ -177,30 +177,21 @@ std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
     auto* remoteText = reinterpret_cast<wchar_t*>(static_cast<char*>(block.get()) + sizeof(LVITEMW));
 
     std::vector<std::wstring> texts;
-    const int rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0));
-    for (int row = 0; row < rows; ++row) {
+    for (int row = 0, rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); row < rows; ++row) {
         // Written for every row: the list may change the item it is handed.
         LVITEMW item{};
         item.mask = LVIF_TEXT;
         item.iSubItem = column;
         item.pszText = remoteText;
         item.cchTextMax = kChars;
-        std::wstring text;
-        if (WriteProcessMemory(process.get(), block.get(), &item, sizeof item, nullptr)) {
-            const auto length = static_cast<std::size_t>(
-                SendMessageW(listView, LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(block.get())));
-            text.resize(std::min<std::size_t>(length, kChars - 1));
-            if (!ReadProcessMemory(process.get(), remoteText, text.data(), text.size() * sizeof(wchar_t), nullptr))
-                text.clear();
-        }
-        texts.push_back(text.substr(0, text.find(L'\0')));
+        std::wstring text(kChars, L'\0');
+        if (!WriteProcessMemory(process.get(), block.get(), &item, sizeof item, nullptr) ||
+            !SendMessageW(listView, LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(block.get())) ||
+            !ReadProcessMemory(process.get(), remoteText, text.data(), text.size() * sizeof(wchar_t), nullptr))
+            text.clear();
+        texts.push_back(text.c_str());
     }
     return texts;
-}
-
-int ListViewCurrentRow(HWND listView) {
-    return static_cast<int>(
-        SendMessageW(listView, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), MAKELPARAM(LVNI_FOCUSED, 0)));
 }
 
 std::wstring ClipboardText() {

@@ -115,8 +115,6 @@ bool AnswerFileDialog(HWND dialog, const std::wstring& fileName);
 
 // The texts of a list view's rows in this column (0 the items' own, 1 and up their subitems), read inside its process.
 std::vector<std::wstring> ListViewTexts(HWND listView, int column);
-// The list view's row with the focus, -1 when none has it.
-int ListViewCurrentRow(HWND listView);
 // The text on the clipboard, empty when it holds none.
 std::wstring ClipboardText();
 
