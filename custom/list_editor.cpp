@@ -41,9 +41,7 @@ private:
 std::span<const MenuRow> EditorMenuRows() { return kEditorMenu; }
 
 const EditorCommand* FindEditorCommand(std::wstring_view caption) {
-    for (std::size_t i = 0; i < kEditorMenu.size(); ++i)
-        if (kEditorMenu[i].caption == caption) return &kEditorCommands[i];
-    return nullptr;
+    return CommandOfCaption<EditorCommand>(kEditorMenu, kEditorCommands, caption);
 }
 
 std::wstring EditorCaption(const std::wstring& listFile) { return L"Custom programs ( " + listFile + L" )"; }

@@ -83,10 +83,8 @@ constexpr auto kButtons = std::to_array<GridButton>({
 
 std::span<const MenuRow> GridMenuRows() { return kGridMenu; }
 
-std::optional<GridMenuCommand> FindGridMenuCommand(std::wstring_view caption) {
-    for (std::size_t i = 0; i < kGridMenu.size(); ++i)
-        if (kGridMenu[i].caption == caption) return kGridMenuCommands[i];
-    return std::nullopt;
+const GridMenuCommand* FindGridMenuCommand(std::wstring_view caption) {
+    return CommandOfCaption<GridMenuCommand>(kGridMenu, kGridMenuCommands, caption);
 }
 
 std::span<const GridButton> GridButtons() { return kButtons; }

@@ -3,7 +3,6 @@
 // buttons around the grids.
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -41,7 +40,7 @@ void LaunchEntry(App& app, const CustomProgramTable& table, std::size_t entry);
 // The grids' popup menu, matched by caption in this order.
 enum class GridMenuCommand { Close, Info, EditList, LoadProgram };
 std::span<const MenuRow> GridMenuRows();
-std::optional<GridMenuCommand> FindGridMenuCommand(std::wstring_view caption);
+const GridMenuCommand* FindGridMenuCommand(std::wstring_view caption);
 
 // The buttons around the grids. Most run a command of the main window's
 // table; the rest are the window's own.

@@ -42,6 +42,16 @@ wchar_t AccessLetter(std::wstring_view caption);
 // The caption as plain words: "&Work&desk" reads "Workdesk", "A && B" reads "A & B".
 std::wstring WithoutAccessMarks(std::wstring_view caption);
 
+// The command of the first row with this caption, from a table of commands
+// that runs parallel to the rows; null when no row has it.
+template <typename Command>
+const Command* CommandOfCaption(std::span<const MenuRow> rows, std::span<const Command> commands,
+                                std::wstring_view caption) {
+    for (std::size_t i = 0; i < rows.size() && i < commands.size(); ++i)
+        if (rows[i].caption == caption) return &commands[i];
+    return nullptr;
+}
+
 // The shortcut as Windows menus write it: "Ctrl+Shift+M", "Alt+F10", "F4"; empty for none.
 std::wstring ShortcutText(Shortcut shortcut);
 

@@ -39,7 +39,7 @@ public:
 
 private:
     void onInit() override {
-        const int size = MulDiv(32, static_cast<int>(WindowDpi(hwnd())), 96);
+        const int size = ScaledForWindow(32, hwnd());
         icon_.reset(static_cast<HICON>(
             LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
         SendDlgItemMessageW(hwnd(), IDC_ABOUT_PICTURE, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon_.get()));

@@ -30,7 +30,7 @@ public:
 
 private:
     ProgramGrid& grid(int number) { return grids_[static_cast<std::size_t>(number - 1)]; }
-    int scaled(int pixels) const { return MulDiv(pixels, static_cast<int>(WindowDpi(hwnd())), 96); }
+    int scaled(int pixels) const { return ScaledForWindow(pixels, hwnd()); }
 
     void onInit() override {
         app_.CurrentProgramPath.clear();

@@ -167,7 +167,7 @@ void IconStrip::setHot(int index) {
 void IconStrip::paint(HDC dc) {
     loadIcons();
     const MenuColours colours = Skin::instance().menuColours();
-    const int margin = MulDiv(kHotMargin, static_cast<int>(WindowDpi(hwnd())), 96);
+    const int margin = ScaledForWindow(kHotMargin, hwnd());
     const bool showFocus = GetFocus() == hwnd() && keyboardCues_;
     for (int i = 0; i < kIconCount; ++i) {
         RECT r = iconRect(i);

@@ -74,7 +74,7 @@ public:
     ListEditorWindow(App& app, CustomProgramTable& table) : app_(app), table_(table), editor_(app, table) {}
 
 private:
-    int scaled(int pixels) const { return MulDiv(pixels, static_cast<int>(WindowDpi(hwnd())), 96); }
+    int scaled(int pixels) const { return ScaledForWindow(pixels, hwnd()); }
     HWND panel() const { return GetDlgItem(hwnd(), IDC_EDITOR_LINES); }
     HWND field(int id) const { return GetDlgItem(panel(), id); }
 
@@ -130,11 +130,6 @@ private:
 
     void showCaption() { SetWindowTextW(hwnd(), EditorCaption(app_.settings.CustomListFile).c_str()); }
 
-    static std::wstring WindowText(HWND edit) {
-        std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(edit)) + 1, L'\0');
-        text.resize(static_cast<std::size_t>(GetWindowTextW(edit, text.data(), static_cast<int>(text.size()))));
-        return text;
-    }
     // A field takes the table's text, with the caret after its last character.
     void showField(int id, const std::wstring& text) {
         HWND edit = field(id);

@@ -56,19 +56,26 @@ MENUITEMINFOW ItemInfo(const MenuRow& row, std::size_t index, const std::wstring
     return item;
 }
 
+// An item's caption, without the shortcut text after its tab.
+std::wstring CaptionOf(HMENU menu, UINT command) {
+    wchar_t text[256] = {};
+    const int length = GetMenuStringW(menu, command, text, 256, MF_BYCOMMAND);
+    const std::wstring caption(text, length > 0 ? static_cast<std::size_t>(length) : 0);
+    return caption.substr(0, caption.find(L'\t'));
+}
+
 }  // namespace
 
 void MenuBar::build(HWND window) {
-    const auto rows = rows_;
     HMENU bar = CreateMenu();
     std::map<std::wstring_view, HMENU> menus;
     std::vector<ACCEL> shortcuts;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const MenuRow& row = rows[i];
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const MenuRow& row = rows_[i];
         const UINT command = kFirstMenuCommand + static_cast<UINT>(i);
         const std::wstring text = ItemText(row);
         MENUITEMINFOW item = ItemInfo(row, i, text);
-        if (row.parentKey.empty() && HasItems(rows, row.key)) {
+        if (row.parentKey.empty() && HasItems(rows_, row.key)) {
             item.fMask |= MIIM_SUBMENU;
             item.hSubMenu = menus[row.key] = CreatePopupMenu();
         }
@@ -103,10 +110,7 @@ std::wstring MenuBar::popup(HWND owner, POINT at) {
     const UINT picked = static_cast<UINT>(
         TrackPopupMenuEx(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, owner, nullptr));
     popup_ = false;
-    wchar_t text[256] = {};
-    const int length = picked ? GetMenuStringW(menu.get(), picked, text, 256, MF_BYCOMMAND) : 0;
-    const std::wstring caption(text, length > 0 ? static_cast<std::size_t>(length) : 0);
-    return caption.substr(0, caption.find(L'\t'));
+    return picked ? CaptionOf(menu.get(), picked) : std::wstring();
 }
 
 void MenuBar::setColours(HWND window, const MenuColours& colours) {
@@ -160,12 +164,7 @@ HICON MenuBar::icon(int key) const {
     return icon.get();
 }
 
-std::wstring MenuBar::caption(HWND window, UINT command) const {
-    wchar_t text[256] = {};
-    const int length = GetMenuStringW(GetMenu(window), command, text, 256, MF_BYCOMMAND);
-    std::wstring caption(text, length > 0 ? length : 0);
-    return caption.substr(0, caption.find(L'\t'));
-}
+std::wstring MenuBar::caption(HWND window, UINT command) const { return CaptionOf(GetMenu(window), command); }
 
 LRESULT MenuBar::menuChar(wchar_t letter, HMENU menu) const {
     const auto upper = [](wchar_t c) { return reinterpret_cast<ULONG_PTR>(CharUpperW(reinterpret_cast<wchar_t*>(c))); };
@@ -179,9 +178,8 @@ LRESULT MenuBar::menuChar(wchar_t letter, HMENU menu) const {
 }
 
 bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
-    const auto rows = rows_;
-    if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;
-    const MenuRow& row = rows[item.itemData];
+    if (item.CtlType != ODT_MENU || item.itemData >= rows_.size()) return false;
+    const MenuRow& row = rows_[item.itemData];
     const bool onBar = this->onBar(row);
     if (row.isSeparator()) {
         item.itemWidth = 0;
@@ -209,9 +207,8 @@ bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
 }
 
 bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
-    const auto rows = rows_;
-    if (item.CtlType != ODT_MENU || item.itemData >= rows.size()) return false;
-    const MenuRow& row = rows[item.itemData];
+    if (item.CtlType != ODT_MENU || item.itemData >= rows_.size()) return false;
+    const MenuRow& row = rows_[item.itemData];
     HDC dc = item.hDC;
     RECT r = item.rcItem;
     if (onBar(row)) {

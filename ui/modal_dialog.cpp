@@ -34,10 +34,9 @@ void ModalDialog::onCommand(int id, int) {
     if (id == IDOK || id == IDCANCEL) end(id);
 }
 
-std::wstring ModalDialog::itemText(int id) const {
-    HWND item = GetDlgItem(window_, id);
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(item)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(item, text.data(), static_cast<int>(text.size()))));
+std::wstring WindowText(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
 }
 

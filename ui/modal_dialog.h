@@ -9,6 +9,9 @@
 
 namespace orvane::ui {
 
+// A control's or window's whole text.
+std::wstring WindowText(HWND window);
+
 class ModalDialog {
 public:
     ModalDialog() = default;
@@ -30,7 +33,7 @@ protected:
     virtual INT_PTR onMessage(UINT, WPARAM, LPARAM) { return FALSE; }
     void end(INT_PTR result) { EndDialog(window_, result); }
 
-    std::wstring itemText(int id) const;
+    std::wstring itemText(int id) const { return WindowText(GetDlgItem(window_, id)); }
     void setItemText(int id, const std::wstring& text) { SetDlgItemTextW(window_, id, text.c_str()); }
 
 private:

@@ -51,7 +51,7 @@ void ProgramGrid::create(HWND parent, int id, GridPointer& pointer) {
     SetWindowSubclass(list_, &ProgramGrid::Subclass, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
-int ProgramGrid::scaled(int pixels) const { return MulDiv(pixels, static_cast<int>(WindowDpi(list_)), 96); }
+int ProgramGrid::scaled(int pixels) const { return ScaledForWindow(pixels, list_); }
 
 void ProgramGrid::fill(const CustomProgramTable& table, const std::vector<std::size_t>& entries) {
     entries_ = entries;
