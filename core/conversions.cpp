@@ -107,16 +107,29 @@ std::vector<std::wstring_view> SplitLines(std::wstring_view text, std::size_t ma
     return lines;
 }
 
-std::vector<std::string_view> SplitAtCarriageReturns(std::string_view text, std::size_t maxLines) {
-    std::vector<std::string_view> lines;
+namespace {
+
+template <typename Char>
+std::vector<std::basic_string_view<Char>> SplitAtCr(std::basic_string_view<Char> text, std::size_t maxLines) {
+    std::vector<std::basic_string_view<Char>> lines;
     std::size_t start = 0;
     while (start < text.size() && lines.size() < maxLines) {
-        const auto end = text.find('\r', start);
-        lines.push_back(text.substr(start, end == std::string_view::npos ? end : end - start));
-        if (end == std::string_view::npos) break;
-        start = end + (end + 1 < text.size() && text[end + 1] == '\n' ? 2 : 1);
+        const auto end = text.find(Char('\r'), start);
+        lines.push_back(text.substr(start, end == text.npos ? end : end - start));
+        if (end == text.npos) break;
+        start = end + (end + 1 < text.size() && text[end + 1] == Char('\n') ? 2 : 1);
     }
     return lines;
+}
+
+}  // namespace
+
+std::vector<std::string_view> SplitAtCarriageReturns(std::string_view text, std::size_t maxLines) {
+    return SplitAtCr(text, maxLines);
+}
+
+std::vector<std::wstring_view> SplitAtCarriageReturns(std::wstring_view text, std::size_t maxLines) {
+    return SplitAtCr(text, maxLines);
 }
 
 bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view part) {

@@ -38,6 +38,7 @@ std::vector<std::wstring_view> SplitLines(std::wstring_view text, std::size_t ma
 // The lines of a list file as the old runtime read them: a line ends at CR LF
 // or a lone CR, while a lone LF stays inside its line. Counted as SplitLines.
 std::vector<std::string_view> SplitAtCarriageReturns(std::string_view text, std::size_t maxLines);
+std::vector<std::wstring_view> SplitAtCarriageReturns(std::wstring_view text, std::size_t maxLines);
 
 // Whether the text contains the part, ignoring the case of ASCII letters.
 bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view part);

@@ -3,9 +3,24 @@
 
 #include <string>
 
+#include "system.h"
+
 namespace orvane {
 
 class App;
+
+// The file dialogs change the current folder; this puts it back when it goes.
+class FolderKeeper {
+public:
+    explicit FolderKeeper(System& sys) : sys_(sys), folder_(sys.currentFolder()) {}
+    FolderKeeper(const FolderKeeper&) = delete;
+    FolderKeeper& operator=(const FolderKeeper&) = delete;
+    ~FolderKeeper() { sys_.setCurrentFolder(folder_); }
+
+private:
+    System& sys_;
+    std::wstring folder_;
+};
 
 // Deletes the file when the path is not empty and the file exists; errors ignored.
 void DeleteFileIfPresent(App& app, const std::wstring& path);

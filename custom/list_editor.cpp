@@ -25,17 +25,6 @@ constexpr auto kEditorCommands = std::to_array<EditorCommand>({EditorCommand::Lo
 
 constexpr int kLastLine = static_cast<int>(kCustomEntries) - 1;
 
-// The dialogs change the current folder; the editor puts it back.
-class FolderKeeper {
-public:
-    explicit FolderKeeper(System& sys) : sys_(sys), folder_(sys.currentFolder()) {}
-    ~FolderKeeper() { sys_.setCurrentFolder(folder_); }
-
-private:
-    System& sys_;
-    std::wstring folder_;
-};
-
 }  // namespace
 
 std::span<const MenuRow> EditorMenuRows() { return kEditorMenu; }

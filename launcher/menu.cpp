@@ -8,16 +8,7 @@ namespace orvane {
 
 namespace {
 
-constexpr std::uint16_t Key(char letter) { return static_cast<std::uint16_t>(letter); }
-constexpr std::uint16_t F(int number) { return static_cast<std::uint16_t>(111 + number); }
-
-constexpr Shortcut None{};
-constexpr Shortcut Plain(std::uint16_t key) { return {0, key}; }
-constexpr Shortcut Shift(std::uint16_t key) { return {kShift, key}; }
-constexpr Shortcut Ctrl(std::uint16_t key) { return {kCtrl, key}; }
-constexpr Shortcut Alt(std::uint16_t key) { return {kAlt, key}; }
-constexpr Shortcut CtrlShift(std::uint16_t key) { return {kCtrl | kShift, key}; }
-constexpr Shortcut CtrlAlt(std::uint16_t key) { return {kCtrl | kAlt, key}; }
+using namespace keys;
 
 constexpr MenuRow Title(std::wstring_view key, std::wstring_view caption) { return {L"", key, caption, L"", None}; }
 constexpr MenuRow Item(std::wstring_view parent, std::wstring_view key, std::wstring_view caption,
@@ -163,6 +154,8 @@ std::wstring ShortcutText(Shortcut shortcut) {
     if (shortcut.modifiers & kAlt) text += L"Alt+";
     if (shortcut.modifiers & kShift) text += L"Shift+";
     if (shortcut.key >= F(1) && shortcut.key <= F(12)) return text + L"F" + std::to_wstring(shortcut.key - F(1) + 1);
+    if (shortcut.key == kInsert) return text + L"Insert";
+    if (shortcut.key == kDelete) return text + L"Delete";
     return text + static_cast<wchar_t>(shortcut.key);
 }
 

@@ -20,6 +20,21 @@ struct Shortcut {
     std::uint16_t key = 0;  // a virtual-key code: 65 to 90 for A to Z, 112 to 123 for F1 to F12; 0 for none
 };
 
+// Writing shortcuts in menu tables: Ctrl(Key('S')), Shift(F(5)), Plain(kInsert).
+namespace keys {
+constexpr std::uint16_t Key(char letter) { return static_cast<std::uint16_t>(letter); }
+constexpr std::uint16_t F(int number) { return static_cast<std::uint16_t>(111 + number); }
+inline constexpr std::uint16_t kInsert = 0x2D, kDelete = 0x2E;
+
+inline constexpr Shortcut None{};
+constexpr Shortcut Plain(std::uint16_t key) { return {0, key}; }
+constexpr Shortcut Shift(std::uint16_t key) { return {kShift, key}; }
+constexpr Shortcut Ctrl(std::uint16_t key) { return {kCtrl, key}; }
+constexpr Shortcut Alt(std::uint16_t key) { return {kAlt, key}; }
+constexpr Shortcut CtrlShift(std::uint16_t key) { return {kCtrl | kShift, key}; }
+constexpr Shortcut CtrlAlt(std::uint16_t key) { return {kCtrl | kAlt, key}; }
+}  // namespace keys
+
 struct MenuRow {
     std::wstring_view parentKey;  // empty for an item of the bar itself
     std::wstring_view key;        // empty for a separator
