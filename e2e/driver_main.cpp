@@ -2,7 +2,7 @@
 //   driver.exe wait-bar    waits until a bar is shown
 //   driver.exe open-menu   opens the bar's first menu from the keyboard
 //   driver.exe pick CAPTION  picks the bar's menu item with this caption, as a click does
-//   driver.exe rect TITLE  prints a dialog's place on the screen as WxH+X+Y, once it is shown
+//   driver.exe rect TITLE  prints a dialog's place on the screen as WxH+X+Y, once it is shown ("Name*" for a prefix)
 //   driver.exe close-bar   closes the bar as its close box does and waits until it has ended
 #include <cstdio>
 #include <string>
@@ -16,7 +16,7 @@ int wmain(int argc, wchar_t** argv) {
     const std::wstring step = argc > 1 ? argv[1] : L"";
     if (step == L"rect" && argc > 2) {
         HWND dialog = nullptr;
-        testsupport::WaitFor([&] { return (dialog = FindWindowW(e2e::kDialogClass, argv[2])) && IsWindowVisible(dialog); },
+        testsupport::WaitFor([&] { return (dialog = testsupport::FindProcessWindow(0, e2e::kDialogClass, argv[2])) != nullptr; },
                              std::chrono::seconds(30));
         RECT r{};
         if (!dialog || !GetWindowRect(dialog, &r)) return 1;

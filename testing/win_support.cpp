@@ -92,10 +92,16 @@ std::wstring TextOf(HWND window) {
 }
 
 HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title) {
+    const std::wstring_view wanted = title ? title : L"";
+    const bool prefix = wanted.ends_with(L'*');
+    const auto matches = [&](const std::wstring& text) {
+        return prefix ? text.starts_with(wanted.substr(0, wanted.size() - 1)) : text == wanted;
+    };
     for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr;) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        if (owner == processId && IsWindowVisible(window) && (!title || TextOf(window) == title)) return window;
+        if ((owner == processId || processId == 0) && IsWindowVisible(window) && (!title || matches(TextOf(window))))
+            return window;
     }
     return nullptr;
 }

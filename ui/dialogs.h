@@ -12,6 +12,7 @@ namespace orvane {
 class App;
 class MainCommands;
 struct CustomProgramTable;
+struct FileInformation;
 }
 
 namespace orvane::ui {
@@ -48,6 +49,10 @@ struct EntryChoice {
 std::optional<EntryChoice> ShowEntryDialog(App& app, HWND owner, const CustomProgramTable& table, int entry);
 // frmTxtInfo: facts about a file, to copy, inspect or explore.
 void ShowFileInformation(App& app, HWND owner, const std::wstring& path);
+// The same with facts gathered by the caller.
+void ShowFileInformation(App& app, HWND owner, const std::wstring& path, const FileInformation& info);
+// frmWebList: the websites of WebListFile, opened in the chosen browser.
+void ShowWebList(App& app, MainCommands& commands, HWND owner);
 
 // The shell's folder dialog, starting at the given folder; nothing when cancelled.
 std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& title, const std::wstring& start);

@@ -18,7 +18,8 @@ namespace {
 
 class FileInfoDialog : public ModalDialog {
 public:
-    FileInfoDialog(App& app, const std::wstring& path) : app_(app), path_(path), info_(InformationOf(app, path)) {}
+    FileInfoDialog(App& app, const std::wstring& path, const FileInformation& info)
+        : app_(app), path_(path), info_(info) {}
 
 private:
     void onInit() override {
@@ -66,7 +67,11 @@ private:
 }  // namespace
 
 void ShowFileInformation(App& app, HWND owner, const std::wstring& path) {
-    FileInfoDialog dialog(app, path);
+    ShowFileInformation(app, owner, path, InformationOf(app, path));
+}
+
+void ShowFileInformation(App& app, HWND owner, const std::wstring& path, const FileInformation& info) {
+    FileInfoDialog dialog(app, path, info);
     dialog.centreOver(ToHwnd(app.MainWindowRef));
     dialog.show(owner, IDD_FILE_INFO);
 }

@@ -79,15 +79,8 @@ private:
     HWND field(int id) const { return GetDlgItem(panel(), id); }
 
     void onInit() override {
-        // The menu bar takes its height from the client area: the window grows by as much.
-        RECT before{}, after{}, outer{};
-        GetClientRect(hwnd(), &before);
         menu_.setColours(hwnd(), Skin::instance().menuColours());
-        menu_.build(hwnd());
-        GetClientRect(hwnd(), &after);
-        GetWindowRect(hwnd(), &outer);
-        SetWindowPos(hwnd(), nullptr, 0, 0, outer.right - outer.left,
-                     outer.bottom - outer.top + (before.bottom - after.bottom), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        menu_.buildGrowing(hwnd());
         createLines();
         if (LoadCustomList(app_, table_)) refill();
         showCaption();

@@ -324,7 +324,11 @@ void MainWindow::chooseMenuFont() {
     buildMenuBar();  // the items are measured anew in the new font
 }
 void MainWindow::showCustomPrograms() { ShowCustomPrograms(app_, customPrograms_, commands_, hwnd()); }
-void MainWindow::showWebList() {}           // the web list window comes later
+// Also asked for by the custom programs window, which then owns the list.
+void MainWindow::showWebList() {
+    HWND active = GetActiveWindow();
+    ShowWebList(app_, commands_, active ? active : hwnd());
+}
 void MainWindow::showWallpaper() {}         // the wallpaper window comes later
 
 }  // namespace orvane::ui

@@ -93,6 +93,16 @@ void MenuBar::build(HWND window) {
     setColours(window, colours_);
 }
 
+void MenuBar::buildGrowing(HWND window) {
+    RECT before{}, after{}, outer{};
+    GetClientRect(window, &before);
+    build(window);
+    GetClientRect(window, &after);
+    GetWindowRect(window, &outer);
+    SetWindowPos(window, nullptr, 0, 0, outer.right - outer.left,
+                 outer.bottom - outer.top + (before.bottom - after.bottom), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 std::wstring MenuBar::popup(HWND owner, POINT at) {
     forgetSizedResources(owner);
     UniqueMenu menu(CreatePopupMenu());

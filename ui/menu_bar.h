@@ -27,6 +27,8 @@ public:
 
     // Builds the bar, gives it to the window and makes the shortcut table.
     void build(HWND window);
+    // The same for a dialog laid out without a bar: the window grows by the bar's height.
+    void buildGrowing(HWND window);
     // Fonts, icons and item sizes follow the window's new DPI.
     void dpiChanged(HWND window);
     // The bar and its menus take these colours at once.

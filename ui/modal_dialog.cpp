@@ -1,6 +1,7 @@
 #include "modal_dialog.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "skin.h"
 
@@ -23,11 +24,35 @@ void CentreOver(HWND dialog, HWND owner) {
     SetWindowPos(dialog, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// The dialogs open on this thread, innermost last.
+thread_local std::vector<ModalDialog*> openDialogs;
+
 }  // namespace
 
+// The dialog manager's loop has no place for shortcuts; its message filter does.
+LRESULT CALLBACK ModalDialog::filter(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == MSGF_DIALOGBOX) {
+        MSG& message = *reinterpret_cast<MSG*>(lParam);
+        for (auto it = openDialogs.rbegin(); it != openDialogs.rend(); ++it) {
+            HWND dialog = (*it)->window_;
+            if (dialog && (message.hwnd == dialog || IsChild(dialog, message.hwnd))) {
+                if ((*it)->translate(message)) return TRUE;
+                break;
+            }
+        }
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
 INT_PTR ModalDialog::show(HWND owner, int templateId) {
-    return DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner, &ModalDialog::route,
-                           reinterpret_cast<LPARAM>(this));
+    openDialogs.push_back(this);
+    UniqueHook hook(openDialogs.size() == 1 ? SetWindowsHookExW(WH_MSGFILTER, &ModalDialog::filter, nullptr,
+                                                                GetCurrentThreadId())
+                                            : nullptr);
+    const INT_PTR result = DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner,
+                                           &ModalDialog::route, reinterpret_cast<LPARAM>(this));
+    openDialogs.pop_back();
+    return result;
 }
 
 void ModalDialog::onCommand(int id, int) {

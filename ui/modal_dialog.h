@@ -7,6 +7,8 @@
 
 #include <string>
 
+#include "handles.h"
+
 namespace orvane::ui {
 
 // A control's or window's whole text.
@@ -31,6 +33,9 @@ protected:
     virtual void onCommand(int id, int code);
     // Any other message; TRUE when the dialog handled it.
     virtual INT_PTR onMessage(UINT, WPARAM, LPARAM) { return FALSE; }
+    // A message for the dialog or its controls before the dialog manager sees
+    // it, for keyboard shortcuts; true when it was used up.
+    virtual bool translate(MSG&) { return false; }
     void end(INT_PTR result) { EndDialog(window_, result); }
 
     std::wstring itemText(int id) const { return WindowText(GetDlgItem(window_, id)); }
@@ -38,6 +43,7 @@ protected:
 
 private:
     static INT_PTR CALLBACK route(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK filter(int code, WPARAM wParam, LPARAM lParam);
     HWND window_ = nullptr;
     HWND centreOver_ = nullptr;
 };

@@ -121,8 +121,7 @@ bool WebList::openList() {
     const auto chosen = app_.sys.chooseFile({.title = L"Load list of websites", .filter = kListFilter});
     if (!chosen || chosen->empty()) return false;
     app_.settings.WebListFile = *chosen;
-    load();
-    return true;
+    return load();
 }
 
 bool WebList::confirmClose() {

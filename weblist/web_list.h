@@ -57,6 +57,7 @@ public:
     // Asks for a name and writes the lists there; false when nothing was written.
     bool save();
     // Another list, chosen by the user; unsaved edits of this one are dropped.
+    // True when one was read.
     bool openList();
     // Asks to save while there are unsaved changes; false when the user cancels.
     bool confirmClose();

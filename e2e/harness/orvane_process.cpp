@@ -194,6 +194,13 @@ std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
     return texts;
 }
 
+std::vector<bool> ListViewChecks(HWND listView) {
+    std::vector<bool> checks;
+    for (int row = 0, rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); row < rows; ++row)
+        checks.push_back((SendMessageW(listView, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2);
+    return checks;
+}
+
 std::wstring ClipboardText() {
     // The program that just copied, or Wine's bridge to the X selection, may hold it a moment.
     if (!WaitFor([] { return OpenClipboard(nullptr) != FALSE; }, 1s)) return {};

@@ -106,7 +106,7 @@ void ClickAt(POINT point);
 // The colour on the screen at this point.
 COLORREF ScreenColour(POINT point);
 
-// The first visible dialog of the process with this title.
+// The first visible dialog of the process with this title ("Name*": starting with "Name").
 HWND WaitForDialogTitled(DWORD processId, const std::wstring& title, std::chrono::milliseconds timeout = 15s);
 std::wstring ControlText(HWND dialog, int id);
 void SetControlText(HWND dialog, int id, const std::wstring& text);
@@ -115,6 +115,8 @@ bool AnswerFileDialog(HWND dialog, const std::wstring& fileName);
 
 // The texts of a list view's rows in this column (0 the items' own, 1 and up their subitems), read inside its process.
 std::vector<std::wstring> ListViewTexts(HWND listView, int column);
+// The rows' check marks.
+std::vector<bool> ListViewChecks(HWND listView);
 // The text on the clipboard, empty when it holds none.
 std::wstring ClipboardText();
 
