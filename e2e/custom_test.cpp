@@ -57,14 +57,6 @@ protected:
         GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
         return info.hwndFocus;
     }
-    HWND answerMessage(const std::wstring& expected) {
-        HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
-        if (!box) return nullptr;
-        EXPECT_EQ(MessageBoxText(box), expected);
-        PressButton(box, IDOK);
-        WaitFor([&] { return !IsWindow(box); }, 5s);
-        return box;
-    }
 
     ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
     std::unique_ptr<OrvaneProcess> orvane;
@@ -95,8 +87,8 @@ TEST_F(CustomPrograms, EnterStartsTheRowInItsFolderBlankRowsDoNothingMissingProg
     EXPECT_EQ(WaitForDialogTitled(orvane->id(), L"Orvane", 2s), nullptr) << "no message";
     PressKeys(dialog, {VK_RIGHT});
     PressKeys(dialog, {VK_RETURN});
-    EXPECT_NE(answerMessage(L"Cannot locate the following program/file:\r\n\r\n" + Wide(path(L"gone.exe")) + L"\r\n\r\n"),
-              nullptr);
+    EXPECT_TRUE(AnswerMessage(orvane->id(), L"Cannot locate the following program/file:\r\n\r\n" +
+                                                Wide(path(L"gone.exe")) + L"\r\n\r\n"));
     EXPECT_EQ(ReadProbeLog(log).size(), 1u) << "nothing else started";
 
     PressKeys(dialog, {VK_ESCAPE});
@@ -121,7 +113,7 @@ TEST_F(CustomPrograms, InformationIsCopiedTheEntryDialogTogglesX86AndTheEditorSa
     ASSERT_NE(info, nullptr);
     EXPECT_EQ(ControlText(info, IDC_INFO_EXISTS), L"File exists: YES");
     PressButton(info, IDC_INFO_CLIP);
-    ASSERT_NE(answerMessage(L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option."), nullptr);
+    ASSERT_TRUE(AnswerMessage(orvane->id(), L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option."));
     const std::regex copied("File: My\\.lst\r\nPath: (.*)\r\n\r\nSize: ([0-9]),([0-9]{3})\r\nAltered: .+\r\n\r\n"
                             "Time: [0-9]{2}:[0-9]{2}:[0-9]{2}\r\nDate: .+, .+ [0-9]+ [0-9]{4}\r\n");
     std::smatch parts;

@@ -1,14 +1,20 @@
-// What the Wine benchmarks share: owning a started program, medians, and a
-// settings file that makes orvane.exe start without a message.
+// What the Wine benchmarks share: owning a started program, medians and
+// timings, a modal window timed to its first paint, and a settings file that
+// makes orvane.exe start without a message.
 #pragma once
 
 #include <windows.h>
+#include <commctrl.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cwchar>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "win_support.h"
@@ -86,5 +92,74 @@ inline double Median(std::vector<double> values) {
     const std::size_t middle = values.size() / 2;
     return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
+
+using Clock = std::chrono::steady_clock;
+
+inline double MillisecondsSince(Clock::time_point started) {
+    return std::chrono::duration<double, std::milli>(Clock::now() - started).count();
+}
+
+// The milliseconds one call of the step takes.
+template <typename Step>
+double MillisecondsOf(Step&& step) {
+    const auto started = Clock::now();
+    step();
+    return MillisecondsSince(started);
+}
+
+inline double MedianOf(int runs, const std::function<double()>& run) {
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) times.push_back(run());
+    return Median(times);
+}
+
+// The command identifier of the first menu row with this caption, numbered
+// from `first` as the menu bar numbers its items; 0 when no row has it.
+template <typename Rows>
+unsigned MenuCommandOf(const Rows& rows, std::wstring_view caption, unsigned first) {
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (rows[i].caption == caption) return first + static_cast<unsigned>(i);
+    return 0;
+}
+
+// Times a modal dialog from its opening to its first idle moment at which
+// ready(dialog) holds, when it has painted everything and waits for the user,
+// then closes it. The dialog's owner is the one told of that moment.
+class FirstIdle {
+public:
+    explicit FirstIdle(HWND owner) : owner_(owner) {
+        SetWindowSubclass(owner_, &FirstIdle::watch, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    ~FirstIdle() { RemoveWindowSubclass(owner_, &FirstIdle::watch, 1); }
+    FirstIdle(const FirstIdle&) = delete;
+    FirstIdle& operator=(const FirstIdle&) = delete;
+
+    // `open` returns when the dialog has closed again.
+    double time(std::function<bool(HWND)> ready, const std::function<void()>& open) {
+        ready_ = std::move(ready);
+        milliseconds_ = 0;
+        started_ = Clock::now();
+        open();
+        return milliseconds_;
+    }
+
+private:
+    static LRESULT CALLBACK watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+        auto& self = *reinterpret_cast<FirstIdle*>(data);
+        if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX && self.milliseconds_ == 0) {
+            HWND dialog = reinterpret_cast<HWND>(lParam);
+            if (self.ready_(dialog)) {
+                self.milliseconds_ = MillisecondsSince(self.started_);
+                PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+            }
+        }
+        return DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    HWND owner_;
+    std::function<bool(HWND)> ready_;
+    Clock::time_point started_;
+    double milliseconds_ = 0;
+};
 
 }  // namespace orvane::bench

@@ -7,8 +7,6 @@
 #include <windows.h>
 #include <commctrl.h>
 
-#include <chrono>
-#include <functional>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -25,30 +23,8 @@
 
 namespace ts = orvane::testsupport;
 using namespace orvane::bench;
-using Clock = std::chrono::steady_clock;
 
 namespace {
-
-struct Opening {
-    Clock::time_point started;
-    double milliseconds = 0;
-    std::size_t rows = 0;  // the window is done when its grids hold these
-};
-
-// The window's first idle moment with its grids filled: everything is painted.
-LRESULT CALLBACK WatchIdle(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
-    auto& opening = *reinterpret_cast<Opening*>(data);
-    if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX && opening.milliseconds == 0) {
-        HWND dialog = reinterpret_cast<HWND>(lParam);
-        const auto rows = static_cast<std::size_t>(ListView_GetItemCount(GetDlgItem(dialog, IDC_GRID1)) +
-                                                   ListView_GetItemCount(GetDlgItem(dialog, IDC_GRID2)));
-        if (rows == opening.rows) {
-            opening.milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - opening.started).count();
-            PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
-        }
-    }
-    return DefSubclassProc(window, message, wParam, lParam);
-}
 
 // 64 different programs, so every icon is a different one.
 std::string ListOfPrograms() {
@@ -64,12 +40,6 @@ std::string ListOfPrograms() {
     for (const auto* column : {&names, &programs, &programs})
         for (std::size_t i = 0; i < 64; ++i) text += (i < column->size() ? (*column)[i] : std::string()) + "\r\n";
     return text;
-}
-
-double MedianOf(int runs, const std::function<double()>& run) {
-    std::vector<double> times;
-    for (int i = 0; i < runs; ++i) times.push_back(run());
-    return Median(times);
 }
 
 }  // namespace
@@ -90,18 +60,18 @@ int wmain(int argc, wchar_t** argv) {
     app.ProgramFolder = folder;
     orvane::ui::MainWindow bar(app);
     if (!bar.open()) return 1;
-    UINT command = 0;
-    const auto rows = orvane::MainMenuRows();
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        if (rows[i].caption == L"C&ustom programs") command = orvane::ui::kFirstMenuCommand + static_cast<UINT>(i);
+    const UINT command = MenuCommandOf(orvane::MainMenuRows(), L"C&ustom programs", orvane::ui::kFirstMenuCommand);
 
-    Opening opening;
-    SetWindowSubclass(bar.hwnd(), WatchIdle, 1, reinterpret_cast<DWORD_PTR>(&opening));
-    const auto open = [&](const std::wstring& list, std::size_t expectedRows) {
+    FirstIdle firstIdle(bar.hwnd());
+    const auto open = [&](const std::wstring& list, int expectedRows) {
         app.settings.CustomListFile = list;
-        opening = {Clock::now(), 0, expectedRows};
-        SendMessageW(bar.hwnd(), WM_COMMAND, command, 0);  // returns when the window has closed
-        return opening.milliseconds;
+        // The window is done when its grids hold all the rows.
+        const auto filled = [expectedRows](HWND dialog) {
+            return ListView_GetItemCount(GetDlgItem(dialog, IDC_GRID1)) +
+                       ListView_GetItemCount(GetDlgItem(dialog, IDC_GRID2)) == expectedRows;
+        };
+        // Returns when the window has closed.
+        return firstIdle.time(filled, [&] { SendMessageW(bar.hwnd(), WM_COMMAND, command, 0); });
     };
     open(empty, 0);  // the window's classes and controls, made once per process
     const double cold = open(full, 64);
@@ -117,14 +87,9 @@ int wmain(int argc, wchar_t** argv) {
 
     orvane::CustomProgramTable table;
     app.settings.CustomListFile = full;
-    const auto timed = [](const auto& step) {
-        const auto started = Clock::now();
-        step();
-        return std::chrono::duration<double, std::milli>(Clock::now() - started).count();
-    };
-    const double load = MedianOf(runs, [&] { return timed([&] { orvane::LoadCustomList(app, table); }); });
+    const double load = MedianOf(runs, [&] { return MillisecondsOf([&] { orvane::LoadCustomList(app, table); }); });
     app.settings.CustomListFile = folder + L"\\Saved.lst";
-    const double save = MedianOf(runs, [&] { return timed([&] { orvane::SaveCustomList(app, table); }); });
+    const double save = MedianOf(runs, [&] { return MillisecondsOf([&] { orvane::SaveCustomList(app, table); }); });
     std::printf("a 192-line list: loaded in %.2f ms, saved in %.2f ms (medians of %d runs)\n", load, save, runs);
     DestroyWindow(bar.hwnd());
     ts::RemoveTree(folder);

@@ -73,6 +73,16 @@ std::wstring MessageBoxText(HWND box) { return ControlText(box, 0xFFFF); }  // t
 
 void PressButton(HWND dialog, int buttonId) { PostMessageW(GetDlgItem(dialog, buttonId), BM_CLICK, 0, 0); }
 
+bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId) {
+    HWND box = WaitForDialogTitled(processId, L"Orvane");
+    if (!box || MessageBoxText(box) != text) {
+        std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str());
+        return false;
+    }
+    PressButton(box, buttonId);
+    return WaitFor([&] { return !IsWindow(box); }, 5s);
+}
+
 std::vector<MenuItem> ReadMenu(HWND window) {
     static HMODULE hook = LoadLibraryW((ExeFolder() + L"\\menu_hook.dll").c_str());
     const auto procedure = reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(GetProcAddress(hook, "ReadMenuHook")));

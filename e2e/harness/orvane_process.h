@@ -57,6 +57,9 @@ private:
 std::wstring MessageBoxText(HWND box);
 // Presses a dialog's button, as a click does.
 void PressButton(HWND dialog, int buttonId);
+// Checks the text of the program's message box, once it shows, and answers
+// it with a button; true once it has gone.
+bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId = IDOK);
 
 // The 39 lines of a settings file, each ending in CR LF: text lines empty,
 // number lines "0", but the given lines (1-based).

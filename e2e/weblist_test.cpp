@@ -1,0 +1,151 @@
+// The web list window driven as a user would: opened from the bar's menu,
+// rows checked with the keyboard, websites opened in a probe browser, a row
+// added and saved, and the files it cannot save or read.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+#include <tuple>
+
+#include "orvane_process.h"
+
+#include <commctrl.h>
+
+#include "resource.h"
+#include "win_support.h"
+
+namespace orvane::e2e {
+namespace {
+
+using namespace testsupport;
+
+// A web list file: three lines per row (name, address, check), "***", the groups, a final empty line.
+std::string WebListFile(const std::vector<std::array<std::string, 3>>& rows, const std::string& groups = "") {
+    std::string text;
+    for (const auto& row : rows) text += row[0] + "\r\n" + row[1] + "\r\n" + row[2] + "\r\n";
+    return text + "***\r\n" + groups + "\r\n";
+}
+
+class WebList : public ::testing::Test {
+protected:
+    // The bar on a list file, the probe as browser 2 and chosen, with its web list window open.
+    HWND open(const std::string& list, const std::wstring& listFile = L"Sites.lst") {
+        CreateDirectoryW((folder.path() + L"\\My Browser").c_str(), nullptr);
+        CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder.path() + L"\\My Browser", L"web probe.exe");
+        WriteBytes(folder.path() + L"\\" + listFile, list);
+        WriteBytes(folder.settingsFile(),
+                   SettingsText({{33, path(listFile)}, {34, "C:\\none.exe"}, {35, browser()}, {37, "2"}}));
+        orvane = std::make_unique<OrvaneProcess>(folder);
+        HWND bar = orvane->waitForMainWindow();
+        return bar && PickMenuItem(bar, L"Open &web list") ? WaitForDialogTitled(orvane->id(), L"Website list*") : nullptr;
+    }
+    std::string path(const std::wstring& name) const { return Utf8(folder.path() + L"\\" + name); }
+    std::string browser() const { return path(L"My Browser\\web probe.exe"); }
+    std::vector<ProbeRecord> started(std::size_t atLeast) const {
+        return ReadProbeLog(folder.path() + L"\\My Browser\\probe.log", atLeast);
+    }
+    bool closes(HWND window) { return WaitFor([&] { return !IsWindow(window); }, 5s); }
+
+    ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
+    std::unique_ptr<OrvaneProcess> orvane;
+};
+
+TEST_F(WebList, RowsAndChecksAsInTheFileTheCheckedOnesOpenInOneCommandLineAndFourAreAskedAbout) {
+    HWND window = open(WebListFile({{"Alpha", "a", "1"}, {"Beta", "b", "0"}, {".   .   .   .   .   .   .   .   .", "", "0"},
+                                    {"Gamma", "c", "0"}, {"Delta", "d", "1"}}));
+    ASSERT_NE(window, nullptr);
+    HWND rows = GetDlgItem(window, IDC_WEB_ROWS);
+    EXPECT_EQ(ListViewTexts(rows, 0), (std::vector<std::wstring>{L"Alpha", L"Beta", L".   .   .   .   .   .   .   .   .",
+                                                                 L"Gamma", L"Delta"}));
+    EXPECT_EQ(ListViewTexts(rows, 1), (std::vector<std::wstring>{L"a", L"b", L"", L"c", L"d"}));
+    EXPECT_EQ(ListViewChecks(rows), (std::vector<bool>{true, false, false, false, true}));
+
+    // Delta unchecked, Beta checked, from the keyboard; then F12 loads them.
+    PressKeys(window, {VK_END});
+    PressKeys(window, {VK_SPACE});
+    PressKeys(window, {VK_HOME});
+    PressKeys(window, {VK_DOWN});
+    PressKeys(window, {VK_SPACE});
+    EXPECT_TRUE(WaitFor([&] { return ListViewChecks(rows) == std::vector<bool>{true, true, false, false, false}; }, 5s));
+    PressKeys(window, {VK_F12});
+    const auto first = started(1);
+    ASSERT_EQ(first.size(), 1u);
+    EXPECT_EQ(first[0].commandLine, browser() + " a b ") << "the path unquoted, every address with its blank";
+
+    // Four checked: the question, and No starts nothing.
+    for (WORD key : {VK_DOWN, VK_DOWN}) PressKeys(window, {key});
+    PressKeys(window, {VK_SPACE});
+    PressKeys(window, {VK_DOWN});
+    PressKeys(window, {VK_SPACE});
+    ASSERT_TRUE(WaitFor([&] { return ListViewChecks(rows) == std::vector<bool>{true, true, false, true, true}; }, 5s));
+    ASSERT_TRUE(PickMenuItem(window, L"&Load checked items"));
+    ASSERT_TRUE(AnswerMessage(orvane->id(), L"Load 4 selected websites from list?", IDNO));
+    EXPECT_EQ(started(2).size(), 1u);
+
+    // Nothing was edited: the window closes without a question, and keeps the browser chosen last.
+    PressButton(window, IDC_FIRST_BROWSER_CHOICE);
+    EXPECT_TRUE(WaitFor([&] { return IsDlgButtonChecked(window, IDC_FIRST_BROWSER_CHOICE) == BST_CHECKED; }, 5s));
+    PressKeys(window, {VK_ESCAPE});
+    ASSERT_TRUE(closes(window));
+    orvane->close();
+    ASSERT_EQ(orvane->waitForExit(), 0u);
+    const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
+    EXPECT_EQ(std::tuple(settings.at(33), settings.at(34), settings.at(36)), std::tuple("C:\\none.exe", browser(), "1"));
+}
+
+TEST_F(WebList, ARowAddedThroughTheEditPanelIsSavedUnderANewNameAndUnsavedChangesAreAskedAbout) {
+    HWND window = open(WebListFile({{"Alpha", "a", "1"}, {"Beta", "b", "0"}}, "a b\r\n"));
+    ASSERT_NE(window, nullptr);
+    HWND rows = GetDlgItem(window, IDC_WEB_ROWS);
+    PressKeys(window, {VK_F5});  // Add item, below the first row, then its edit panel
+    HWND name = GetDlgItem(window, IDC_EDIT_NAME);
+    ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(name) != FALSE; }, 5s));
+    SetControlText(window, IDC_EDIT_NAME, L"Caf\u00e9");
+    SetControlText(window, IDC_EDIT_SITE, L"http://cafe");
+    PressKeys(window, {VK_RETURN});
+    EXPECT_TRUE(WaitFor([&] { return ListViewTexts(rows, 1) == std::vector<std::wstring>{L"a", L"http://cafe", L"b"}; }, 5s));
+    EXPECT_EQ(ListViewChecks(rows), (std::vector<bool>{true, false, false}));
+
+    PressKeys(window, {VK_CONTROL, 'S'});
+    HWND save = WaitForDialogTitled(orvane->id(), L"Save web list to disk");
+    ASSERT_TRUE(AnswerFileDialog(save, folder.path() + L"\\Saved"));
+    const std::wstring saved = folder.path() + L"\\Saved.lst";
+    ASSERT_TRUE(WaitFor([&] { return TextOf(window) == L"Website list :  " + saved + L"  ( 3 entries )"; }, 10s));
+    const std::string bytes = "Alpha\r\na\r\n1\r\nCaf\xe9\r\nhttp://cafe\r\n0\r\nBeta\r\nb\r\n0\r\n***\r\na b\r\n\r\n";
+    EXPECT_EQ(ReadBytes(saved), bytes);
+
+    // Another edit, then closing asks; Cancel keeps the window, No closes it unsaved.
+    PressKeys(window, {VK_CONTROL, VK_INSERT});
+    EXPECT_TRUE(WaitFor([&] { return ListViewTexts(rows, 0).size() == 4; }, 5s));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(AnswerMessage(orvane->id(), L"Save list before exiting this level ? ", IDCANCEL));
+    EXPECT_FALSE(closes(window));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(AnswerMessage(orvane->id(), L"Save list before exiting this level ? ", IDNO));
+    EXPECT_TRUE(closes(window));
+    EXPECT_EQ(ReadBytes(saved), bytes) << "as saved";
+}
+
+TEST_F(WebList, ATenMegabyteListOfGarbageAndTooManyRowsOpensButIsNeverHalfWritten) {
+    // 40,000 rows, one of them a megabyte of every byte value: about ten megabytes in all.
+    std::string garbage;
+    for (int i = 0; i < (1 << 20); ++i) garbage += static_cast<char>(i % 256 == 13 ? 'x' : i % 256);
+    std::vector<std::array<std::string, 3>> many(40000, {"Site", "http://example/" + std::string(200, 'p'), "0"});
+    many[7][0] = garbage;
+    const std::string list = WebListFile(many);
+    HWND window = open(list, L"Long.lst");
+    ASSERT_NE(window, nullptr);
+    HWND rows = GetDlgItem(window, IDC_WEB_ROWS);
+    EXPECT_EQ(ListView_GetItemCount(rows), 40000);
+    PressKeys(window, {VK_SHIFT, VK_F5});  // a separator at the end: changed
+    EXPECT_TRUE(WaitFor([&] { return ListView_GetItemCount(rows) == 40001; }, 5s));
+    PressKeys(window, {VK_CONTROL, 'S'});
+    ASSERT_TRUE(AnswerMessage(orvane->id(), L"This list has 40001 entries, more than the 32767 a web list file can hold. Nothing was saved.",
+                       IDOK));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(AnswerMessage(orvane->id(), L"Save list before exiting this level ? ", IDNO)) << "still unsaved";
+    EXPECT_EQ(ReadBytes(folder.path() + L"\\Long.lst"), list);
+}
+
+}  // namespace
+}  // namespace orvane::e2e
