@@ -97,7 +97,9 @@ private:
     // The controls as the model holds them.
     void refresh() {
         ListView_SetItemCountEx(rows(), count(), LVSICF_NOSCROLL);
-        ListView_SetItemState(rows(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+        // One by one: clearing every row at once costs two notifications a row.
+        for (int i = -1; (i = ListView_GetNextItem(rows(), i, LVNI_SELECTED)) >= 0;)
+            ListView_SetItemState(rows(), i, 0, LVIS_SELECTED);
         for (int i = 0; i < count(); ++i)
             if (list_.rows[static_cast<std::size_t>(i)].selected) ListView_SetItemState(rows(), i, LVIS_SELECTED, LVIS_SELECTED);
         if (list_.current >= 0 && list_.current < count()) {
