@@ -204,6 +204,7 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (popup_.dialogMessage(hwnd(), message, wParam, lParam)) return TRUE;
         switch (message) {
         case kActivated: activated(); return TRUE;
         case WM_ACTIVATE:
@@ -216,11 +217,6 @@ private:
             return TRUE;
         case WM_NOTIFY: return notify(*reinterpret_cast<const NMHDR*>(lParam));
         case WM_CONTEXTMENU: showPopup(reinterpret_cast<HWND>(wParam), lParam); return TRUE;
-        case WM_MEASUREITEM: return popup_.measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
-        case WM_DRAWITEM: return popup_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-        case WM_MENUCHAR:
-            SetWindowLongPtrW(hwnd(), DWLP_MSGRESULT, popup_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam)));
-            return TRUE;
         }
         return FALSE;
     }

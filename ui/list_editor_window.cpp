@@ -262,15 +262,7 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        switch (message) {
-        case WM_MEASUREITEM: return menu_.measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
-        case WM_DRAWITEM: return menu_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-        case WM_MENUCHAR:
-            SetWindowLongPtrW(hwnd(), DWLP_MSGRESULT, menu_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam)));
-            return TRUE;
-        case kSkinChanged: menu_.setColours(hwnd(), Skin::instance().menuColours()); return TRUE;
-        }
-        return FALSE;
+        return menu_.dialogMessage(hwnd(), message, wParam, lParam);
     }
 
     App& app_;

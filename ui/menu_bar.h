@@ -51,6 +51,9 @@ public:
 
     bool measure(MEASUREITEMSTRUCT& item) const;
     bool draw(const DRAWITEMSTRUCT& item) const;
+    // A dialog's messages for its menu: drawing, access letters, a new skin's
+    // colours. True when the message was the menu's.
+    bool dialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
     void forgetSizedResources(HWND window);

@@ -366,15 +366,10 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (menu_.dialogMessage(hwnd(), message, wParam, lParam)) return TRUE;
         switch (message) {
         case WM_NOTIFY: return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
         case WM_CLOSE: close(); return TRUE;
-        case WM_MEASUREITEM: return menu_.measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
-        case WM_DRAWITEM: return menu_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-        case WM_MENUCHAR:
-            SetWindowLongPtrW(hwnd(), DWLP_MSGRESULT, menu_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam)));
-            return TRUE;
-        case kSkinChanged: menu_.setColours(hwnd(), Skin::instance().menuColours()); return TRUE;
         }
         return FALSE;
     }
