@@ -50,9 +50,9 @@ protected:
     std::unique_ptr<OrvaneProcess> orvane;
 };
 
-TEST_F(WebList, RowsAndChecksAsInTheFileTheCheckedOnesOpenInOneCommandLineAndFourAreAskedAbout) {
+TEST_F(WebList, RowsAndChecksAsInTheFileCheckedOnesOpenInOneCommandLineARowAddedIsSavedAndLeavingUnsavedAsks) {
     HWND window = open(WebListFile({{"Alpha", "a", "1"}, {"Beta", "b", "0"}, {".   .   .   .   .   .   .   .   .", "", "0"},
-                                    {"Gamma", "c", "0"}, {"Delta", "d", "1"}}));
+                                    {"Gamma", "c", "0"}, {"Delta", "d", "1"}}, "a b\r\n"));
     ASSERT_NE(window, nullptr);
     HWND rows = GetDlgItem(window, IDC_WEB_ROWS);
     EXPECT_EQ(ListViewTexts(rows, 0), (std::vector<std::wstring>{L"Alpha", L"Beta", L".   .   .   .   .   .   .   .   .",
@@ -61,11 +61,7 @@ TEST_F(WebList, RowsAndChecksAsInTheFileTheCheckedOnesOpenInOneCommandLineAndFou
     EXPECT_EQ(ListViewChecks(rows), (std::vector<bool>{true, false, false, false, true}));
 
     // Delta unchecked, Beta checked, from the keyboard; then F12 loads them.
-    PressKeys(window, {VK_END});
-    PressKeys(window, {VK_SPACE});
-    PressKeys(window, {VK_HOME});
-    PressKeys(window, {VK_DOWN});
-    PressKeys(window, {VK_SPACE});
+    for (WORD key : {VK_END, VK_SPACE, VK_HOME, VK_DOWN, VK_SPACE}) PressKeys(window, {key});
     EXPECT_TRUE(WaitFor([&] { return ListViewChecks(rows) == std::vector<bool>{true, true, false, false, false}; }, 5s));
     PressKeys(window, {VK_F12});
     const auto first = started(1);
@@ -73,57 +69,44 @@ TEST_F(WebList, RowsAndChecksAsInTheFileTheCheckedOnesOpenInOneCommandLineAndFou
     EXPECT_EQ(first[0].commandLine, browser() + " a b ") << "the path unquoted, every address with its blank";
 
     // Four checked: the question, and No starts nothing.
-    for (WORD key : {VK_DOWN, VK_DOWN}) PressKeys(window, {key});
-    PressKeys(window, {VK_SPACE});
-    PressKeys(window, {VK_DOWN});
-    PressKeys(window, {VK_SPACE});
+    for (WORD key : {VK_DOWN, VK_DOWN, VK_SPACE, VK_DOWN, VK_SPACE}) PressKeys(window, {key});
     ASSERT_TRUE(WaitFor([&] { return ListViewChecks(rows) == std::vector<bool>{true, true, false, true, true}; }, 5s));
     ASSERT_TRUE(PickMenuItem(window, L"&Load checked items"));
     ASSERT_TRUE(AnswerMessage(orvane->id(), L"Load 4 selected websites from list?", IDNO));
     EXPECT_EQ(started(2).size(), 1u);
 
-    // Nothing was edited: the window closes without a question, and keeps the browser chosen last.
-    PressButton(window, IDC_FIRST_BROWSER_CHOICE);
-    EXPECT_TRUE(WaitFor([&] { return IsDlgButtonChecked(window, IDC_FIRST_BROWSER_CHOICE) == BST_CHECKED; }, 5s));
-    PressKeys(window, {VK_ESCAPE});
-    ASSERT_TRUE(closes(window));
-    orvane->close();
-    ASSERT_EQ(orvane->waitForExit(), 0u);
-    const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
-    EXPECT_EQ(std::tuple(settings.at(33), settings.at(34), settings.at(36)), std::tuple("C:\\none.exe", browser(), "1"));
-}
-
-TEST_F(WebList, ARowAddedThroughTheEditPanelIsSavedUnderANewNameAndUnsavedChangesAreAskedAbout) {
-    HWND window = open(WebListFile({{"Alpha", "a", "1"}, {"Beta", "b", "0"}}, "a b\r\n"));
-    ASSERT_NE(window, nullptr);
-    HWND rows = GetDlgItem(window, IDC_WEB_ROWS);
-    PressKeys(window, {VK_F5});  // Add item, below the first row, then its edit panel
+    // A row added after the current one, Delta, through the edit panel; saved under a new name.
+    PressKeys(window, {VK_F5});
     HWND name = GetDlgItem(window, IDC_EDIT_NAME);
     ASSERT_TRUE(WaitFor([&] { return IsWindowVisible(name) != FALSE; }, 5s));
     SetControlText(window, IDC_EDIT_NAME, L"Caf\u00e9");
     SetControlText(window, IDC_EDIT_SITE, L"http://cafe");
     PressKeys(window, {VK_RETURN});
-    EXPECT_TRUE(WaitFor([&] { return ListViewTexts(rows, 1) == std::vector<std::wstring>{L"a", L"http://cafe", L"b"}; }, 5s));
-    EXPECT_EQ(ListViewChecks(rows), (std::vector<bool>{true, false, false}));
-
+    EXPECT_TRUE(WaitFor([&] { return ListViewTexts(rows, 1).back() == L"http://cafe"; }, 5s));
     PressKeys(window, {VK_CONTROL, 'S'});
-    HWND save = WaitForDialogTitled(orvane->id(), L"Save web list to disk");
-    ASSERT_TRUE(AnswerFileDialog(save, folder.path() + L"\\Saved"));
+    ASSERT_TRUE(AnswerFileDialog(WaitForDialogTitled(orvane->id(), L"Save web list to disk"), folder.path() + L"\\Saved"));
     const std::wstring saved = folder.path() + L"\\Saved.lst";
-    ASSERT_TRUE(WaitFor([&] { return TextOf(window) == L"Website list :  " + saved + L"  ( 3 entries )"; }, 10s));
-    const std::string bytes = "Alpha\r\na\r\n1\r\nCaf\xe9\r\nhttp://cafe\r\n0\r\nBeta\r\nb\r\n0\r\n***\r\na b\r\n\r\n";
+    ASSERT_TRUE(WaitFor([&] { return TextOf(window) == L"Website list :  " + saved + L"  ( 6 entries )"; }, 10s));
+    const std::string bytes = "Alpha\r\na\r\n1\r\nBeta\r\nb\r\n1\r\n.   .   .   .   .   .   .   .   .\r\n\r\n0\r\nGamma\r\nc\r\n1\r\n"
+                              "Delta\r\nd\r\n1\r\nCaf\xe9\r\nhttp://cafe\r\n0\r\n***\r\na b\r\n\r\n";
     EXPECT_EQ(ReadBytes(saved), bytes);
 
-    // Another edit, then closing asks; Cancel keeps the window, No closes it unsaved.
+    // Another edit, then closing asks; Cancel keeps the window, No closes it unsaved, keeping the browser chosen last.
     PressKeys(window, {VK_CONTROL, VK_INSERT});
-    EXPECT_TRUE(WaitFor([&] { return ListViewTexts(rows, 0).size() == 4; }, 5s));
+    EXPECT_TRUE(WaitFor([&] { return ListViewTexts(rows, 0).size() == 7; }, 5s));
     PostMessageW(window, WM_CLOSE, 0, 0);
     ASSERT_TRUE(AnswerMessage(orvane->id(), L"Save list before exiting this level ? ", IDCANCEL));
     EXPECT_FALSE(closes(window));
+    PressButton(window, IDC_FIRST_BROWSER_CHOICE);
+    EXPECT_TRUE(WaitFor([&] { return IsDlgButtonChecked(window, IDC_FIRST_BROWSER_CHOICE) == BST_CHECKED; }, 5s));
     PostMessageW(window, WM_CLOSE, 0, 0);
     ASSERT_TRUE(AnswerMessage(orvane->id(), L"Save list before exiting this level ? ", IDNO));
-    EXPECT_TRUE(closes(window));
+    ASSERT_TRUE(closes(window));
     EXPECT_EQ(ReadBytes(saved), bytes) << "as saved";
+    orvane->close();
+    ASSERT_EQ(orvane->waitForExit(), 0u);
+    const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
+    EXPECT_EQ(std::tuple(settings.at(33), settings.at(34), settings.at(36)), std::tuple("C:\\none.exe", browser(), "1"));
 }
 
 TEST_F(WebList, ATenMegabyteListOfGarbageAndTooManyRowsOpensButIsNeverHalfWritten) {
