@@ -54,6 +54,11 @@ void ShowFileInformation(App& app, HWND owner, const std::wstring& path, const F
 // frmWebList: the websites of WebListFile, opened in the chosen browser.
 void ShowWebList(App& app, MainCommands& commands, HWND owner);
 
+// frmWallpaper: the wallpaper over the screen, left only with the return password.
+void ShowWallpaper(App& app, HWND owner);
+// The wallpaper window while it is open, else null.
+HWND OpenWallpaper();
+
 // The shell's folder dialog, starting at the given folder; nothing when cancelled.
 std::optional<std::wstring> BrowseForFolder(HWND owner, const std::wstring& title, const std::wstring& start);
 

@@ -77,6 +77,11 @@ void MainWindow::unload() {
 LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_CLOSE:
+        // Closing the bar under the wallpaper would close it too: the password decides, and the bar stays.
+        if (HWND wallpaper = OpenWallpaper()) {
+            PostMessageW(wallpaper, WM_CLOSE, 0, 0);
+            return 0;
+        }
         unload();
         DestroyWindow(hwnd());
         return 0;
@@ -329,6 +334,6 @@ void MainWindow::showWebList() {
     HWND active = GetActiveWindow();
     ShowWebList(app_, commands_, active ? active : hwnd());
 }
-void MainWindow::showWallpaper() {}         // the wallpaper window comes later
+void MainWindow::showWallpaper() { ShowWallpaper(app_, hwnd()); }
 
 }  // namespace orvane::ui

@@ -116,3 +116,5 @@
 #define IDC_EDIT_NAME_LABEL 725
 #define IDC_EDIT_SITE_LABEL 726
 #define IDC_FIRST_WEB_BUTTON 730  // one per row of the window's buttons' table
+
+#define IDD_WALLPAPER 111
