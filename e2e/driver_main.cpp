@@ -3,6 +3,7 @@
 //   driver.exe open-menu   opens the bar's first menu from the keyboard
 //   driver.exe pick CAPTION  picks the bar's menu item with this caption, as a click does
 //   driver.exe rect TITLE  prints a dialog's place on the screen as WxH+X+Y, once it is shown ("Name*" for a prefix)
+//   driver.exe leave TITLE closes a dialog that asks for the return password, none being set
 //   driver.exe close-bar   closes the bar as its close box does and waits until it has ended
 #include <cstdio>
 #include <string>
@@ -23,8 +24,16 @@ int wmain(int argc, wchar_t** argv) {
         std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top);
         return 0;
     }
+    if (step == L"leave" && argc > 2) {
+        using testsupport::FindProcessWindow;
+        HWND window = FindProcessWindow(0, e2e::kDialogClass, argv[2]), box = nullptr;
+        if (window) PostMessageW(window, WM_CLOSE, 0, 0);
+        testsupport::WaitFor([&] { return (box = FindProcessWindow(0, e2e::kDialogClass, L"Orvane")) != nullptr; }, std::chrono::seconds(30));
+        if (box) e2e::PressButton(box, IDOK);
+        return window && box && testsupport::WaitFor([&] { return !IsWindow(window); }, std::chrono::seconds(30)) ? 0 : 1;
+    }
     if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar" && !(step == L"pick" && argc > 2)) {
-        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | close-bar\n");
+        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | leave TITLE | close-bar\n");
         return 2;
     }
     HWND bar = nullptr;

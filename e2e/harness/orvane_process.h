@@ -40,6 +40,7 @@ public:
     ~OrvaneProcess();
 
     DWORD id() const { return id_; }
+    HANDLE handle() const { return process_; }
     // Its visible bar or message box; a wait of 0 only looks.
     HWND waitForMainWindow(std::chrono::milliseconds timeout = 15s) const;
     HWND waitForDialog(std::chrono::milliseconds timeout = 15s) const;

@@ -1,0 +1,153 @@
+// The wallpaper window driven as a user would: opened from the bar's menu,
+// its picture read back from the screen, and every way out through the
+// return password.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+#include "orvane_process.h"
+
+#include <psapi.h>
+
+#include "picture_size.h"
+#include "resource.h"
+#include "wallpaper.h"
+#include "win_support.h"
+
+namespace orvane::e2e {
+namespace {
+
+using namespace testsupport;
+
+class Wallpaper : public ::testing::Test {
+protected:
+    // The bar on a picture, built or written here, with the wallpaper window open.
+    HWND open(const std::wstring& picture, const std::string& password = "", const std::string& stretch = "0") {
+        const std::wstring built = EnvironmentPath(L"ORVANE_PICTURES") + L"\\" + picture;
+        if (GetFileAttributesW(built.c_str()) != INVALID_FILE_ATTRIBUTES) CopyInto(built, folder.path());
+        WriteBytes(folder.settingsFile(), SettingsText({{30, Utf8(path(picture))}, {31, stretch}, {32, password}}));
+        orvane = std::make_unique<OrvaneProcess>(folder);
+        HWND bar = orvane->waitForMainWindow();
+        return bar && PickMenuItem(bar, L"Wa&llpaper") ? WaitForDialogTitled(orvane->id(), L"Wallpaper") : nullptr;
+    }
+    std::wstring path(const std::wstring& name) const { return folder.path() + L"\\" + name; }
+    // Answers the password box; true once the box has gone.
+    bool answer(const std::wstring& typed) {
+        HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
+        if (!box || ControlText(box, IDC_PROMPT) != kPasswordPrompt) return false;
+        SetControlText(box, IDC_BOX_TEXT, typed);
+        PressButton(box, IDOK);
+        return WaitFor([&] { return !IsWindow(box); }, 5s);
+    }
+    bool closes(HWND window) { return WaitFor([&] { return !IsWindow(window); }, 5s); }
+    static RECT Client(HWND window) {
+        RECT r{};
+        GetClientRect(window, &r);
+        MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&r), 2);
+        return r;
+    }
+
+    ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
+    std::unique_ptr<OrvaneProcess> orvane;
+};
+
+TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndEveryWayOutAsksForThePassword) {
+    HWND window = open(L"Test_Bands.png", "abc");
+    ASSERT_NE(window, nullptr);
+    RECT r{};
+    GetWindowRect(window, &r);
+    EXPECT_EQ(r.right - r.left, GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_EQ(r.bottom - r.top, GetSystemMetrics(SM_CYSCREEN));
+    const RECT client = Client(window);
+    const PixelRect drawn = FitKeepingAspect({1600, 400}, {client.right - client.left, client.bottom - client.top});
+    const LONG middle = (client.left + client.right) / 2, top = client.top + drawn.top;
+    for (const auto& [y, colour] : {std::pair(top - 2, RGB(255, 255, 255)), std::pair(top + 2, RGB(200, 0, 0)),
+                                    std::pair(top + drawn.height - 3, RGB(200, 0, 0)),
+                                    std::pair(top + drawn.height + 1, RGB(255, 255, 255))})
+        EXPECT_TRUE(WaitFor([&] { return ScreenColour({middle, y}) == colour; }, 5s)) << "at " << y;
+
+    const std::function<void()> waysOut[] = {
+        [&] { PressKeys(window, {VK_ESCAPE}); },
+        [&] { ClickAt({middle, top + 10}); },
+        [&] { PickMenuItem(window, L"E&xit"); },
+        [&] { PressKeys(window, {VK_MENU, VK_F4}); },
+        [&] { PostMessageW(window, WM_CLOSE, 0, 0); },
+        [&] { PostMessageW(orvane->waitForMainWindow(), WM_CLOSE, 0, 0); },  // the bar's close goes through it too
+    };
+    for (const auto& wayOut : waysOut) {
+        wayOut();
+        ASSERT_TRUE(answer(L"ABC"));
+        ASSERT_TRUE(AnswerMessage(orvane->id(), L"Wrong password!\r\n\r\n\"ABC\""));
+        EXPECT_TRUE(IsWindowVisible(window)) << "stays";
+    }
+    PressKeys(window, {VK_CONTROL, VK_SHIFT, 'M'});  // the clock, over the wallpaper
+    HWND clock = WaitForDialogTitled(orvane->id(), L"Clock");
+    ASSERT_NE(clock, nullptr);
+    RECT c{};
+    GetWindowRect(clock, &c);
+    EXPECT_EQ(GetAncestor(WindowFromPoint({(c.left + c.right) / 2, (c.top + c.bottom) / 2}), GA_ROOT), clock);
+    PressKeys(clock, {VK_SPACE});
+    ASSERT_TRUE(closes(clock));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(answer(L"  abc  "));
+    EXPECT_TRUE(closes(window));
+}
+
+TEST_F(Wallpaper, ASmallBitmapIsShownAtItsSizeOrStretchedAndWithoutAPasswordAnyAnswerCloses) {
+    for (const char* stretch : {"0", "1"}) {
+        HWND window = open(L"Wallpaper_Small.bmp", "", stretch);
+        ASSERT_NE(window, nullptr);
+        const RECT client = Client(window);
+        const POINT corner{client.left + 5, client.top + 5};
+        const COLORREF white = RGB(255, 255, 255), picture = RGB(250, 220, 120);
+        EXPECT_TRUE(WaitFor([&] { return ScreenColour(corner) == (*stretch == '1' ? picture : white); }, 5s));
+        PressKeys(window, {VK_CONTROL, VK_SHIFT, 'Y'});  // "&Stretch" turns it round
+        EXPECT_TRUE(WaitFor([&] { return ScreenColour(corner) == (*stretch == '1' ? white : picture); }, 5s));
+        PressKeys(window, {VK_MENU, VK_F4});
+        ASSERT_TRUE(answer(L""));
+        EXPECT_TRUE(closes(window));
+        orvane->close();
+        ASSERT_EQ(orvane->waitForExit(), 0u);
+    }
+}
+
+TEST_F(Wallpaper, BadPicturesAreReportedOnceAndLeaveAWindowThatClosesAsUsual) {
+    CopyInto(EnvironmentPath(L"ORVANE_PICTURES") + L"\\Wallpaper_Wide.png", folder.path());
+    WriteBytes(path(L"Cut.png"), ReadBytes(path(L"Wallpaper_Wide.png")).substr(0, 3000));
+    WriteBytes(path(L"Empty.png"), "");
+    WriteBytes(path(L"Notes.png"), "not a picture\r\n");
+    const struct {
+        const wchar_t* file;
+        const wchar_t* title;
+        std::wstring message;
+    } cases[] = {
+        {L"Test_Huge.png", kImagingTitle, PictureErrorText(path(L"Test_Huge.png"))},
+        {L"Empty.png", kImagingTitle, PictureErrorText(path(L"Empty.png"))},
+        {L"Notes.png", kImagingTitle, PictureErrorText(path(L"Notes.png"))},
+        {L"Cut.png", kImagingTitle, PictureErrorText(path(L"Cut.png"))},
+        {L"Gone.jpg", L"Orvane", L"Cannot locate the following program/file:\r\n\r\n" + path(L"Gone.jpg") + L"\r\n\r\n"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(Utf8(c.file));
+        HWND window = open(c.file);
+        ASSERT_NE(window, nullptr);
+        HWND box = WaitForDialogTitled(orvane->id(), c.title);
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(MessageBoxText(box), c.message);
+        PressButton(box, IDOK);
+        ASSERT_TRUE(closes(box));
+        EXPECT_EQ(WaitForDialogTitled(orvane->id(), c.title, 1s), nullptr) << "once";
+        PROCESS_MEMORY_COUNTERS memory{};
+        GetProcessMemoryInfo(orvane->handle(), &memory, sizeof memory);
+        EXPECT_LT(memory.PeakWorkingSetSize, 200u << 20);
+        PressKeys(window, {VK_ESCAPE});
+        ASSERT_TRUE(answer(L"x"));
+        EXPECT_TRUE(closes(window));
+        orvane->close();
+        ASSERT_EQ(orvane->waitForExit(), 0u);
+    }
+}
+
+}  // namespace
+}  // namespace orvane::e2e
