@@ -48,8 +48,12 @@ private:
         PostMessageW(hwnd(), kShowPicture, 0, 0);
     }
 
-    // The primary monitor, all of it: other monitors are left as they are.
+    // The primary monitor, all of it, with no frame: other monitors are left as they are.
     void cover() {
+        // The template's caption gives the window its title but must not be drawn.
+        SetWindowLongPtrW(hwnd(), GWL_STYLE, GetWindowLongPtrW(hwnd(), GWL_STYLE) & ~(WS_CAPTION | WS_THICKFRAME | DS_MODALFRAME));
+        SetWindowLongPtrW(hwnd(), GWL_EXSTYLE,
+                          GetWindowLongPtrW(hwnd(), GWL_EXSTYLE) & ~(WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE));
         SetWindowPos(hwnd(), HWND_TOPMOST, 0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
                      SWP_FRAMECHANGED);
     }
