@@ -73,8 +73,8 @@ std::wstring MessageBoxText(HWND box) { return ControlText(box, 0xFFFF); }  // t
 
 void PressButton(HWND dialog, int buttonId) { PostMessageW(GetDlgItem(dialog, buttonId), BM_CLICK, 0, 0); }
 
-bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId) {
-    HWND box = WaitForDialogTitled(processId, L"Orvane");
+bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId, const std::wstring& title) {
+    HWND box = WaitForDialogTitled(processId, title);
     if (!box || MessageBoxText(box) != text) {
         std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str());
         return false;

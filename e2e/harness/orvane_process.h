@@ -60,7 +60,7 @@ std::wstring MessageBoxText(HWND box);
 void PressButton(HWND dialog, int buttonId);
 // Checks the text of the program's message box, once it shows, and answers
 // it with a button; true once it has gone.
-bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId = IDOK);
+bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId = IDOK, const std::wstring& title = L"Orvane");
 
 // The 39 lines of a settings file, each ending in CR LF: text lines empty,
 // number lines "0", but the given lines (1-based).
