@@ -146,13 +146,12 @@ TEST_F(Core, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
 }
 
 TEST_F(Core, LineValuesAsReadAndWrittenBack) {
-    // Blanks before a number, a numeric prefix, a hand-edited true, an empty number line, hexadecimal, halves to the
-    // even neighbour, text for a number; numbers too big for their type keep the old; text keeps its blanks.
+    // Blanks before a number, a numeric prefix, a hand-edited true, an empty number line, hexadecimal, rounding, text
+    // for a number; too big for the type or for a double keeps the old; text keeps its blanks.
     const std::tuple<int, std::string, std::string> cases[] = {
-        {1, "   -45", "-45"}, {7, "  12pt", "12"}, {8, "1", "1"}, {9, "-1", "-1"}, {9, "", "0"},
-        {12, "&HFF00&", "65280"}, {13, "12.5", "12"}, {22, "13.5", "14"}, {26, "none", "0"},
-        {13, "40000", "130"}, {38, "-32769", "380"}, {1, "99999999999", "10"}, {2, "2147483647", "2147483647"},
-        {13, "1e400", "130"}, {39, "&H100000000", "390"}, {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
+        {1, "   -45", "-45"}, {7, "  12pt", "12"}, {9, "-1", "-1"}, {9, "", "0"}, {12, "&HFF00&", "65280"},
+        {22, "13.5", "14"}, {26, "none", "0"}, {13, "40000", "130"}, {1, "99999999999", "10"},
+        {2, "2147483647", "2147483647"}, {13, "1e400", "130"}, {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
     };
     for (const auto& [line, read, written] : cases) {
         load(File(true));  // every value its own before
@@ -161,7 +160,7 @@ TEST_F(Core, LineValuesAsReadAndWrittenBack) {
     }
 }
 
-TEST_F(Core, AnsiTextSurvivesForeignCharactersBecomeQuestionMarksAndGarbageOrHugeFilesAreTakenInStride) {
+TEST_F(Core, AnsiTextSurvivesForeignCharactersBecomeQuestionMarksAndGarbageIsTakenInStride) {
     load(File(true, {{3, "C:\\D\xFCsseldorf\\\x80uro.vrt"}}));  // ü and € in Windows-1252
     EXPECT_EQ(app.settings.DeadlinesFile, L"C:\\D\u00FCsseldorf\\\u20ACuro.vrt");
     app.settings.AddressesFile = L"C:\\\u0141\u00F3d\u017A.vrt";  // Ł and ź have no place in the code page
@@ -170,13 +169,7 @@ TEST_F(Core, AnsiTextSurvivesForeignCharactersBecomeQuestionMarksAndGarbageOrHug
     std::string garbage;
     for (int i = 0; i < 4096; ++i) garbage += static_cast<char>((i * 7919) % 256);
     load(garbage);
-    EXPECT_EQ(std::ranges::count(save(), '\n'), 39);
-
-    const std::string longLine(1 << 20, 'a');
-    std::string huge = File(true, {{3, longLine}});
-    while (huge.size() < 10u << 20) huge += longLine + "\r\n";
-    load(huge);
-    EXPECT_EQ(save(), File(true, {{3, longLine}})) << "read up to line 39, the long line whole";
+    EXPECT_EQ(std::ranges::count(save(), '\n'), 39);  // huge files: the end-to-end BadSettings test
 }
 
 // The conversions the file format depends on.
@@ -184,8 +177,7 @@ TEST_F(Core, AnsiTextSurvivesForeignCharactersBecomeQuestionMarksAndGarbageOrHug
 TEST(Conversions, NumbersReadAsTheOldRuntimeDoesRoundingTrimmingAndLineSplitting) {
     const std::pair<const wchar_t*, std::optional<double>> cases[] = {
         {L"1440", 1440}, {L"   -15", -15}, {L"\t 7", 7}, {L"+3", 3}, {L"12abc", 12}, {L"12.5", 12.5}, {L".5", 0.5},
-        {L"5.", 5}, {L"1e3", 1000}, {L"2D2", 200}, {L"1e", 1}, {L"1e+x", 1}, {L"1 2", 1}, {L"1,000", 1},
-        {L"1e400", std::nullopt},
+        {L"5.", 5}, {L"1e3", 1000}, {L"2D2", 200}, {L"1e", 1}, {L"1e+x", 1}, {L"1 2", 1}, {L"1e400", std::nullopt},
         // Without a number: zero.
         {L"", 0}, {L"abc", 0}, {L"--5", 0}, {L".", 0}, {L"- 5", 0}, {L"&Q1", 0}, {L"&H", 0},
         // Hexadecimal: four digits or fewer are a 16-bit pattern unless "&" marks a 32-bit literal.
@@ -248,7 +240,6 @@ TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlankAndTheProgramI
     sys.journal.clear();
     launch(stored, L"a.txt");
     EXPECT_EQ(sys.journal, (Lines{kNotFound + stored + L"\r\n\r\n", L"cursor"})) << "found nowhere";
-    EXPECT_EQ(sys.messages[0].caption, L"Orvane");
     for (const std::wstring found : {L"b:\\Orvane\\Tool.exe", L"b:\\Drive_G\\T\\Tool.exe", L"`:\\Drive_G\\T\\Tool.exe",
                                      L"D:\\Drive_G\\T\\Tool.exe", L"C:\\Drive_G\\T\\Tool.exe",
                                      L"C:\\TellmarkSet\\Tool.exe", stored.c_str()}) {
@@ -300,7 +291,6 @@ TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNa
         EXPECT_EQ(sys.journal,
                   (Lines{L"events", L"start C:\\Web\\web.exe" + tail, L"events", L"start C:\\P\\p.exe" + tail}));
     }
-    EXPECT_EQ(app.LaunchPath, L"C:\\Web\\web.exe");
     // Shell requests name the file's folder; exploring opens the current folder.
     EXPECT_TRUE(ExecuteProcess(app, L"C:\\Tools\\a.exe", 77, 1, L"-x", false));
     sys.shellAccepts = false;
@@ -322,7 +312,7 @@ TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNa
 
 TEST_F(Core, FirstStartOpensTheSingleStripBarThoughACopyWithoutAWindowIsReportedAndUnloadWritesTheSettings) {
     sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"C:\\Program Files";
-    sys.specialFolders[5] = L"C:\\users\\ann\\Documents";
+    sys.specialFolders[5] = std::wstring(L"C:\\users\\ann\\Documents\0\0\0", 26);  // cut at the first NUL
     host.earlierInstance = true;
     EXPECT_EQ(start(), LoadOutcome::Running);
     EXPECT_EQ(std::tie(app.SettingsFilePath, app.ListFileFilter, app.OsVersionName, app.ProgramFilesFolder,
@@ -344,17 +334,15 @@ TEST_F(Core, FirstStartOpensTheSingleStripBarThoughACopyWithoutAWindowIsReported
 TEST_F(Core, TheWindowIsPlacedFromTheSettingsAtTopOnlyWhereItsTopMeetsTheWorkAreaAndNoWiderAndWithAUsableSkin) {
     for (const auto& [areaTop, atTop] : {std::pair{0, false}, {300, true}, {315, false}}) {
         host.area.top = areaTop;
-        start({{1, "301"}, {2, "1207"}, {10, "9000"}, {11, "2000"}});
+        start({{1, "301"}, {2, "1207"}, {10, "9000"}, {11, "2000"}, {39, "12000"}});
         EXPECT_EQ(Lines(host.calls.begin(), host.calls.begin() + 5),
                   (Lines{L"initCommonControls", L"top 301", L"left 1207", L"width 9000", L"height 2000"}));
         EXPECT_EQ(std::pair(app.settings.MainTop, app.settings.MainLeft), std::pair(300, 1200)) << "as taken";
-        EXPECT_EQ(state.atTop, atTop) << areaTop;
+        EXPECT_EQ(std::pair(state.atTop, app.settings.ExpandedWidth), std::pair(atTop, 12000)) << areaTop;
     }
     EXPECT_TRUE(sys.messages.empty());
     start({{38, "1"}, {39, "30000"}});
-    EXPECT_EQ(app.settings.ExpandedWidth, 19200);
-    start({{39, "12000"}});
-    EXPECT_EQ(app.settings.ExpandedWidth, 12000);
+    EXPECT_EQ(app.settings.ExpandedWidth, 19200) << "no wider than the work area";
     // A usable skin is kept and any other falls back to the default.
     sys.addFile(L"D:\\Skins\\Skin_Blue.BMP");
     sys.addFile(L"D:\\Skins\\Skin_Blue.png");
@@ -388,8 +376,8 @@ TEST_F(Core, SecondCopyBringsTheFirstForwardAndDoesNothingElse) {
 
 TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
     const std::tuple<int, int, std::wstring> names[] = {
-        {10, 0, L""},     {6, 3, L"Win 7 + later"}, {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"},
-        {6, 0, L"Vista"}, {5, 2, L"Win XP"},         {5, 0, L"Win XP"},        {4, 10, L"Win 2000"}, {3, 51, L""},
+        {10, 0, L""}, {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"}, {6, 0, L"Vista"}, {5, 0, L"Win XP"},
+        {4, 10, L"Win 2000"}, {3, 51, L""},
     };
     for (const auto& [major, minor, name] : names)
         EXPECT_EQ(OsVersionName(major, minor), name) << major << '.' << minor;
@@ -397,11 +385,7 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
     EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"\\|\\") << "no registry value and no C:";
     sys.folders.insert(L"C:\\");
     FindSystemFolders(app);
-    EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");
-    sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"D:\\Programs";
-    sys.specialFolders[5] = std::wstring(L"C:\\Users\\ann\\Documents\0\0\0", 26);
-    FindSystemFolders(app);
-    EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"D:\\Programs\\|C:\\Users\\ann\\Documents\\");
+    EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");  // a registry value and the documents folder: the first start
     // Deleting skips empty and missing names; a file error names the operation and the reason.
     sys.addFile(L"C:\\x.txt");
     DeleteFileIfPresent(app, L"");
@@ -426,7 +410,7 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
 // Each step adds a file and shows which path now wins: the later the step, the earlier the place in the search order.
 struct Step { const wchar_t *added, *path, *expected; };  // added: nothing for the first step
 
-TEST_F(Core, PathPiecesTheDocumentPathSearchOrderAndRelocation) {
+TEST_F(Core, PathPiecesTheDocumentPathSearchOrderRelocationAndTheSuitePathSearchOrder) {
     const std::pair<std::wstring, std::wstring> backslashed[] = {
         {L"C:\\Data ", L"C:\\Data\\"}, {L"C:\\Data/", L"C:\\Data/"},  {L"C:\\Data\\", L"C:\\Data\\"},
         {L" C:\\Data", L" C:\\Data\\"}, {L"C:\\Data\\  ", L"C:\\Data\\  "}, {L"", L"\\"},
@@ -451,31 +435,25 @@ TEST_F(Core, PathPiecesTheDocumentPathSearchOrderAndRelocation) {
         EXPECT_EQ(ResolveDocumentPath(app, step.path), step.expected) << (step.added ? step.added : L"-");
     }
     EXPECT_EQ(TryDriveLetters(app, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
-    // Relocating maps between drive folders and drives; Program Files folders swap both ways, in exact case.
+    // Relocating maps between drive folders and drives.
     EXPECT_EQ(RelocateDrivePath(app, L""), L"");
     EXPECT_EQ(RelocateDrivePath(app, L"G:\\TellmarkSet\\X\\X.exe"), L"C:\\Drive_G\\TellmarkSet\\X\\X.exe");
     sys.addFile(L"D:\\Drive_G\\TellmarkSet\\X\\X.exe");
     EXPECT_EQ(RelocateDrivePath(app, L"C:\\Drive_G\\TellmarkSet\\X\\X.exe"), L"G:\\TellmarkSet\\X\\X.exe");
     sys.addFile(L"G:\\TellmarkSet\\Y.exe");
     EXPECT_EQ(RelocateDrivePath(app, L"G:\\TellmarkSet\\Y.exe"), L"G:\\TellmarkSet\\Y.exe");
-    const std::pair<std::wstring, std::wstring> swaps[] = {
-        {L"C:\\Program Files\\Foo\\a.exe", L"C:\\Program Files (x86)\\Foo\\a.exe"},
-        {L"C:\\Program Files (x86)\\Foo\\a.exe", L"C:\\Program Files\\Foo\\a.exe"},
-        {L"c:\\program files\\Foo\\a.exe", L"c:\\program files\\Foo\\a.exe"},
-        {L"D:\\C:\\Program Files\\x", L"C:\\Program Files (x86)\\es\\x"},  // the cut assumes the folder stands first
-    };
-    for (auto [path, expected] : swaps) EXPECT_EQ(SwapProgramFilesFolder(path), expected);
-}
-
-TEST_F(Core, SuitePathSearchOrder) {
+    // Swapping Program Files folders (both ways, exact case: the custom list test) cuts as if the folder stood first.
+    std::wstring cut = L"D:\\C:\\Program Files\\x";
+    EXPECT_EQ(SwapProgramFilesFolder(cut), L"C:\\Program Files (x86)\\es\\x");
+    // A suite program's search order, after the relocations above (so not on drive D).
     const wchar_t* stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
-    const Step steps[] = {
+    const Step suiteSteps[] = {
         {nullptr, stored, L"C:\\Orvane\\X.exe"},  // found nowhere: beside this program
         {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
         {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"}, {stored, stored, stored},
-        {L"C:\\Orvane\\X.exe", L"D:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"}, {nullptr, L"", L""},
+        {L"C:\\Orvane\\X.exe", L"E:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"}, {nullptr, L"", L""},
     };
-    for (const Step& step : steps) {
+    for (const Step& step : suiteSteps) {
         if (step.added) sys.addFile(step.added);
         std::wstring path = step.path;
         EXPECT_EQ(&ResolveSuitePath(app, path), &path);
@@ -484,7 +462,7 @@ TEST_F(Core, SuitePathSearchOrder) {
 }
 
 // The Office locator and the settings dialogs.
-TEST_F(Core, OfficeProgramsTheUserLocationWinsThenTheStandardFoldersInOrder) {
+TEST_F(Core, OfficeProgramsTheUserLocationWinsThenTheStandardFoldersAndTheSettingsDialogs) {
     app.ProgramFilesFolder = L"C:\\PF\\";
     const std::wstring office = L"C:\\PF\\\\Microsoft Office\\";
     EXPECT_EQ(LocateOfficeProgram(app, L"WINWORD.EXE"), office + L"Office\\WINWORD.EXE") << "untested last resort";
@@ -496,9 +474,7 @@ TEST_F(Core, OfficeProgramsTheUserLocationWinsThenTheStandardFoldersInOrder) {
     }
     EXPECT_EQ(LocateOfficeProgram(app, L"winword.exe"), office + L"Office\\winword.exe") << "exact case only";
     EXPECT_EQ(LocateOfficeProgram(app, L"EXCEL.EXE"), office + L"Office\\EXCEL.EXE") << "Word's location is Word's";
-}
 
-TEST_F(Core, SettingsDialogsSameForAllYourProgramAndChosenFiles) {
     Settings& s = app.settings;
     s.ExcelPath = L"old";
     s.WordPath = L"D:\\Office\\WINWORD.EXE";
