@@ -3,6 +3,8 @@
   Wallpaper_Wide.png   2560 x 1080, wider than any test screen: a sky over hills
   Wallpaper_Small.bmp  320 x 240, a 24-bit bitmap smaller than any screen
   Test_Bands.png       1600 x 400 of one red, whose white bands are easy to find
+  Test_Large.bmp       2000 x 1500 in squares of 100 pixels, larger than the
+                       test screen, to scroll
   Test_Huge.png        16000 x 16000 in two colours: a tiny file that would
                        decode to a gigabyte
 The output is the same on every run.
@@ -26,20 +28,25 @@ def png(path, width, height, rows, colour_type=2, depth=8):
         out.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", data) + chunk(b"IEND", b""))
 
 
-def bmp(path, width, height, pixel):
-    """pixel(x, y) -> (r, g, b), y counted from the top."""
+def bmp(path, width, height, rows):
+    """rows: each row's RGB bytes, from the top; written bottom up as BGR."""
     stride = (width * 3 + 3) & ~3
-    body = bytearray()
-    for y in reversed(range(height)):
-        row = bytearray()
-        for x in range(width):
-            r, g, b = pixel(x, y)
-            row += bytes((b, g, r))
-        body += row + b"\0" * (stride - len(row))
+    body = []
+    for row in rows:
+        bgr = bytearray(stride)
+        bgr[0:width * 3:3], bgr[1:width * 3:3], bgr[2:width * 3:3] = row[2::3], row[1::3], row[0::3]
+        body.append(bytes(bgr))
+    data = b"".join(reversed(body))
     with open(path, "wb") as out:
-        out.write(b"BM" + struct.pack("<IHHI", 54 + len(body), 0, 0, 54))
-        out.write(struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(body), 2835, 2835, 0, 0))
-        out.write(body)
+        out.write(b"BM" + struct.pack("<IHHI", 54 + len(data), 0, 0, 54))
+        out.write(struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(data), 2835, 2835, 0, 0))
+        out.write(data)
+
+
+def squares(width, height, side, first, second):
+    """Rows of squares of two colours, the first at the top left."""
+    rows = [b"".join((first if (x // side + parity) % 2 == 0 else second) for x in range(width)) for parity in (0, 1)]
+    return (rows[y // side % 2] for y in range(height))
 
 
 def wide_rows(width=2560, height=1080, block=4):
@@ -60,8 +67,8 @@ def wide_rows(width=2560, height=1080, block=4):
 def main(out):
     os.makedirs(out, exist_ok=True)
     png(os.path.join(out, "Wallpaper_Wide.png"), 2560, 1080, wide_rows())
-    bmp(os.path.join(out, "Wallpaper_Small.bmp"), 320, 240,
-        lambda x, y: (230, 120, 40) if (x // 40 + y // 40) % 2 else (250, 220, 120))
+    bmp(os.path.join(out, "Wallpaper_Small.bmp"), 320, 240, squares(320, 240, 40, b"\xfa\xdc\x78", b"\xe6\x78\x28"))
+    bmp(os.path.join(out, "Test_Large.bmp"), 2000, 1500, squares(2000, 1500, 100, b"\x20\x40\xc0", b"\xf0\xc0\x20"))
     png(os.path.join(out, "Test_Bands.png"), 1600, 400, (bytes((200, 0, 0)) * 1600 for _ in range(400)))
     png(os.path.join(out, "Test_Huge.png"), 16000, 16000, (b"\0" * 2000 for _ in range(16000)), colour_type=0, depth=1)
 

@@ -110,6 +110,20 @@ TEST_F(Wallpaper, ASmallBitmapIsShownAtItsSizeOrStretchedAndWithoutAPasswordAnyA
     }
 }
 
+TEST_F(Wallpaper, ALargeBitmapTurnedToItsNaturalSizeGetsScrollBarsThatTheKeysMove) {
+    HWND window = open(L"Test_Large.bmp", "", "1");  // 2000 x 1500 in squares of 100, two colours
+    ASSERT_NE(window, nullptr);
+    const LONG bars = WS_HSCROLL | WS_VSCROLL;
+    EXPECT_TRUE(WaitFor([&] { return (GetWindowLongW(window, GWL_STYLE) & bars) == bars; }, 5s));
+    const POINT at{Rect(window, true).left + 50, Rect(window, true).top + 50};
+    const COLORREF first = RGB(0x20, 0x40, 0xc0), second = RGB(0xf0, 0xc0, 0x20);
+    EXPECT_TRUE(WaitFor([&] { return ScreenColour(at) == first; }, 5s));
+    for (WORD key : {VK_DOWN, VK_DOWN, VK_DOWN}) PressKeys(window, {key});  // 40 pixels each: the next square down
+    EXPECT_TRUE(WaitFor([&] { return ScreenColour(at) == second; }, 5s));
+    for (WORD key : {VK_RIGHT, VK_RIGHT, VK_RIGHT}) PressKeys(window, {key});
+    EXPECT_TRUE(WaitFor([&] { return ScreenColour(at) == first; }, 5s));
+}
+
 TEST_F(Wallpaper, BadPicturesAreReportedOnceAndLeaveAWindowThatClosesAsUsual) {
     CopyInto(EnvironmentPath(L"ORVANE_PICTURES") + L"\\Wallpaper_Wide.png", folder.path());
     WriteBytes(path(L"Cut.png"), ReadBytes(path(L"Wallpaper_Wide.png")).substr(0, 3000));
