@@ -5,6 +5,7 @@
 
 #include <windows.h>
 #include <commctrl.h>
+#include <psapi.h>
 
 #include <algorithm>
 #include <chrono>
@@ -91,6 +92,14 @@ inline double Median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
     const std::size_t middle = values.size() / 2;
     return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+// The process's peak working set in MiB; nothing when the system gives no figures.
+inline std::optional<double> PeakWorkingSetMiB(HANDLE process) {
+    PROCESS_MEMORY_COUNTERS memory{};
+    memory.cb = sizeof memory;
+    if (!GetProcessMemoryInfo(process, &memory, sizeof memory)) return std::nullopt;
+    return static_cast<double>(memory.PeakWorkingSetSize) / (1024.0 * 1024.0);
 }
 
 using Clock = std::chrono::steady_clock;

@@ -8,7 +8,6 @@
 //   startup_bench [--runs N] [path\to\orvane.exe]     (or ORVANE_EXE)
 //   ORVANE_BENCH_ROOT: where the folder is staged; beside this program if unset.
 #include <windows.h>
-#include <psapi.h>
 
 #include <algorithm>
 #include <chrono>
@@ -81,9 +80,8 @@ std::optional<Sample> StartOnce(const Program& program, const std::wstring& fold
         return std::nullopt;
     }
 
-    PROCESS_MEMORY_COUNTERS memory{};
-    memory.cb = sizeof memory;
-    if (!GetProcessMemoryInfo(child.info.hProcess, &memory, sizeof memory)) {
+    const auto peak = PeakWorkingSetMiB(child.info.hProcess);
+    if (!peak) {
         Fail(program, "gave no memory figures");
         return std::nullopt;
     }
@@ -95,8 +93,7 @@ std::optional<Sample> StartOnce(const Program& program, const std::wstring& fold
         Fail(program, "did not end cleanly on WM_CLOSE");
         return std::nullopt;
     }
-    return Sample{std::chrono::duration<double, std::milli>(painted - started).count(),
-                  static_cast<double>(memory.PeakWorkingSetSize) / (1024.0 * 1024.0)};
+    return Sample{std::chrono::duration<double, std::milli>(painted - started).count(), *peak};
 }
 
 const char* Verdict(bool met) { return met ? "met" : "NOT met"; }

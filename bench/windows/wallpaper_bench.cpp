@@ -8,7 +8,6 @@
 #include <windows.h>
 #include <objidl.h>
 #include <gdiplus.h>
-#include <psapi.h>
 
 #include <cstdio>
 #include <string>
@@ -72,11 +71,7 @@ void DecodeAlone(const std::wstring& path) {
 }
 
 // The peak working set of this process, in MiB.
-double PeakMiB() {
-    PROCESS_MEMORY_COUNTERS memory{};
-    GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory);
-    return memory.PeakWorkingSetSize / 1048576.0;
-}
+double PeakMiB() { return PeakWorkingSetMiB(GetCurrentProcess()).value_or(0); }
 
 // In a fresh process: the real bar and its wallpaper window on the picture;
 // the peak working set once the window has painted and waits for the user.
