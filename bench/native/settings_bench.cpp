@@ -12,6 +12,7 @@
 
 #include "fake_system.h"
 #include "settings.h"
+#include "table_row.h"
 
 namespace {
 
@@ -124,5 +125,7 @@ int main() {
     std::printf("write (FormatSettings + encode):     %8.0f ns/op; baseline (join lines + narrow): %8.0f ns/op; "
                 "ratio %.2f\n",
                 median[2], median[3], median[2] / median[3]);
+    orvane::bench::TableRow("reading the settings file, against splitting its lines (native)", median[0] / median[1]);
+    orvane::bench::TableRow("writing the settings file, against joining its lines (native)", median[2] / median[3]);
     return 0;
 }

@@ -20,6 +20,7 @@
 #include "resource.h"
 #include "win32_system.h"
 #include "win_support.h"
+#include "table_row.h"
 
 namespace ts = orvane::testsupport;
 using namespace orvane::bench;
@@ -83,7 +84,8 @@ int wmain(int argc, wchar_t** argv) {
     const double icons = Median(withIcons), none = Median(without);
     std::printf("custom programs window to its first full paint: 64 programs %.1f ms (first time, icons not yet known: "
                 "%.1f ms), empty list %.1f ms; medians of %d runs\n", icons, cold, none, runs);
-    std::printf("64 programs / empty list: %.2f (first time %.2f)\n", icons / none, cold / none);
+    orvane::bench::TableRow("custom programs window, 64 programs with icons against an empty list", icons / none, 3);
+    orvane::bench::TableRow("the same, the first time (icons not yet known)", cold / none, 3);
 
     orvane::CustomProgramTable table;
     app.settings.CustomListFile = full;
@@ -91,6 +93,8 @@ int wmain(int argc, wchar_t** argv) {
     app.settings.CustomListFile = folder + L"\\Saved.lst";
     const double save = MedianOf(runs, [&] { return MillisecondsOf([&] { orvane::SaveCustomList(app, table); }); });
     std::printf("a 192-line list: loaded in %.2f ms, saved in %.2f ms (medians of %d runs)\n", load, save, runs);
+    orvane::bench::TableRow("loading a 192-line custom list (ms)", load);
+    orvane::bench::TableRow("saving a 192-line custom list (ms)", save);
     DestroyWindow(bar.hwnd());
     ts::RemoveTree(folder);
     return 0;

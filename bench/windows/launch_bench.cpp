@@ -16,6 +16,7 @@
 #include "menu.h"
 #include "menu_bar.h"
 #include "win_support.h"
+#include "table_row.h"
 
 namespace ts = orvane::testsupport;
 using namespace orvane;
@@ -98,8 +99,7 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("medians of %d alternating runs, after one warm-up of each\n", runs);
     std::printf("menu command to started program: %.1f ms; bare ShellExecuteExW: %.1f ms\n", Median(times[0]),
                 Median(times[1]));
-    std::printf("launch time ratio menu/bare: %.2f (goal <= %.1f: %s)\n", ratio, kRatioGoal,
-                ratio <= kRatioGoal ? "met" : "NOT met");
+    orvane::bench::TableRow("a menu command to the started program, against a bare ShellExecuteExW", ratio, kRatioGoal);
     std::fflush(stdout);
     PostMessageW(bar, WM_CLOSE, 0, 0);
     PostMessageW(baseline, WM_CLOSE, 0, 0);

@@ -16,6 +16,7 @@
 #include "main_window.h"
 #include "win32_system.h"
 #include "win_support.h"
+#include "table_row.h"
 
 namespace ts = orvane::testsupport;
 using namespace orvane::bench;
@@ -69,7 +70,7 @@ int wmain(int argc, wchar_t** argv) {
     const double applied = Median(apply), repainted = Median(repaint);
     std::printf("medians of %d runs: applying a skin to the bar %.2f ms, repainting the bar alone %.2f ms\n", runs, applied,
                 repainted);
-    std::printf("skin applied / plain repaint: %.2f\n", applied / repainted);
+    orvane::bench::TableRow("applying a skin to the bar, against a plain repaint", applied / repainted);
     DestroyWindow(bar.hwnd());
     Settle();
     ts::RemoveTree(folder);

@@ -19,6 +19,7 @@
 
 #include "bench_support.h"
 #include "win_support.h"
+#include "table_row.h"
 
 namespace ts = orvane::testsupport;
 using namespace orvane::bench;
@@ -96,7 +97,6 @@ std::optional<Sample> StartOnce(const Program& program, const std::wstring& fold
     return Sample{std::chrono::duration<double, std::milli>(painted - started).count(), *peak};
 }
 
-const char* Verdict(bool met) { return met ? "met" : "NOT met"; }
 
 }  // namespace
 
@@ -165,12 +165,9 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("orvane.exe: start to first paint %.1f ms, peak working set %.1f MiB\n", time[0], memory[0]);
     std::printf("minwin.exe (empty window): start to first paint %.1f ms, peak working set %.1f MiB\n", time[1],
                 memory[1]);
-    std::printf("start-up time ratio orvane/empty: %.2f (goal <= %.1f: %s)\n", timeRatio, kRatioGoal,
-                Verdict(timeRatio <= kRatioGoal));
-    std::printf("peak working set ratio orvane/empty: %.2f (goal <= %.1f: %s)\n", memoryRatio, kRatioGoal,
-                Verdict(memoryRatio <= kRatioGoal));
-    std::printf("orvane.exe size: %.0f KiB (goal < %.0f KiB: %s)\n", sizeKiB, kSizeGoalKiB,
-                Verdict(sizeKiB < kSizeGoalKiB));
+    orvane::bench::TableRow("start to first paint, against an empty window", timeRatio, kRatioGoal);
+    orvane::bench::TableRow("peak working set at start, against an empty window", memoryRatio, kRatioGoal);
+    orvane::bench::TableRow("orvane.exe size (KiB)", sizeKiB, kSizeGoalKiB, orvane::bench::Goal::Below);
     std::fflush(stdout);
 
     ts::RemoveTree(folder);
