@@ -1,6 +1,11 @@
 // The smallest real window program: the baseline orvane.exe's start-up is
 // compared with. It registers a class, shows one window, and ends on close.
+// Built a second time as minwin_dlls.exe, it first loads what orvane.exe's
+// start needs of the system (shell32, the common controls 6 through the same
+// manifest), to tell that cost from orvane.exe's own work.
 #include <windows.h>
+#include <commctrl.h>
+#include <shlobj.h>
 
 namespace {
 
@@ -17,6 +22,12 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
+#ifdef ORVANE_SAME_DLLS
+    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
+    InitCommonControlsEx(&controls);
+    wchar_t folder[MAX_PATH];
+    SHGetFolderPathW(nullptr, CSIDL_PROGRAM_FILES, nullptr, 0, folder);
+#endif
     WNDCLASSEXW windowClass{};
     windowClass.cbSize = sizeof windowClass;
     windowClass.lpfnWndProc = WindowProc;

@@ -113,13 +113,15 @@ int wmain(int argc, wchar_t** argv) {
     // The default skin beside it, where start-up looks when the settings name none.
     const std::wstring built = ts::WindowsPath(orvanePath);
     ts::CopyInto(built.substr(0, built.find_last_of(L"\\/") + 1) + L"Skin_Alba.bmp", folder);
-    ts::CopyInto(ts::ExeFolder() + L"\\minwin.exe", folder, L"minwin.exe");
+    for (const wchar_t* baseline : {L"minwin.exe", L"minwin_dlls.exe"}) ts::CopyInto(ts::ExeFolder() + L"\\" + baseline, folder);
     const std::wstring settingsPath = folder + L"\\Orvane.ini";
     const std::string settings = StripSettings();
 
     const Program orvane{"orvane.exe", folder + L"\\orvane.exe", L"Orvane.Main", L"Orvane"};
     const Program empty{"minwin.exe", folder + L"\\minwin.exe", L"Orvane.Bench.Empty", L"Empty"};
-    for (const Program* program : {&orvane, &empty}) {
+    const Program sameDlls{"minwin_dlls.exe", folder + L"\\minwin_dlls.exe", L"Orvane.Bench.Empty", L"Empty"};
+    const Program* programs[] = {&orvane, &empty, &sameDlls};
+    for (const Program* program : programs) {
         if (GetFileAttributesW(program->path.c_str()) == INVALID_FILE_ATTRIBUTES) {
             Fail(*program, "could not be copied into the bench folder");
             return 1;
@@ -128,24 +130,24 @@ int wmain(int argc, wchar_t** argv) {
 
     // Each start writes the same settings first: orvane.exe saves its own on
     // close, and every run should begin from the same file.
-    std::vector<Sample> samples[2];
+    std::vector<Sample> samples[3];
     for (int run = 0; run <= runs; ++run) {
-        Sample pair[2];
-        for (int which = 0; which < 2; ++which) {
-            const Program& program = which == 0 ? orvane : empty;
+        Sample taken[3];
+        for (int which = 0; which < 3; ++which) {
             ts::WriteBytes(settingsPath, settings);
-            const auto sample = StartOnce(program, folder);
+            const auto sample = StartOnce(*programs[which], folder);
             if (!sample) return 1;
-            pair[which] = *sample;
+            taken[which] = *sample;
         }
-        if (run == 0) continue;  // the warm-up start fills the caches for both
-        for (int which = 0; which < 2; ++which) samples[which].push_back(pair[which]);
-        std::printf("run %d: orvane.exe %7.1f ms %6.1f MiB | minwin.exe %7.1f ms %6.1f MiB\n", run,
-                    pair[0].milliseconds, pair[0].mebibytes, pair[1].milliseconds, pair[1].mebibytes);
+        if (run == 0) continue;  // the warm-up start fills the caches for all
+        for (int which = 0; which < 3; ++which) samples[which].push_back(taken[which]);
+        std::printf("run %d: orvane.exe %7.1f ms %6.1f MiB | minwin.exe %7.1f ms %6.1f MiB | minwin_dlls.exe %7.1f ms "
+                    "%6.1f MiB\n", run, taken[0].milliseconds, taken[0].mebibytes, taken[1].milliseconds,
+                    taken[1].mebibytes, taken[2].milliseconds, taken[2].mebibytes);
     }
 
-    double time[2], memory[2];
-    for (int which = 0; which < 2; ++which) {
+    double time[3], memory[3];
+    for (int which = 0; which < 3; ++which) {
         std::vector<double> times, sets;
         for (const Sample& s : samples[which]) {
             times.push_back(s.milliseconds);
@@ -165,8 +167,14 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("orvane.exe: start to first paint %.1f ms, peak working set %.1f MiB\n", time[0], memory[0]);
     std::printf("minwin.exe (empty window): start to first paint %.1f ms, peak working set %.1f MiB\n", time[1],
                 memory[1]);
+    std::printf("minwin_dlls.exe (the same, with orvane.exe's system libraries): %.1f ms, %.1f MiB\n", time[2],
+                memory[2]);
     orvane::bench::TableRow("start to first paint, against an empty window", timeRatio, kRatioGoal);
     orvane::bench::TableRow("peak working set at start, against an empty window", memoryRatio, kRatioGoal);
+    // What the system libraries alone cost, and what is left for orvane.exe's own work.
+    orvane::bench::TableRow("the same, an empty window with orvane.exe's system libraries against the bare one", time[2] / time[1]);
+    orvane::bench::TableRow("the same, orvane.exe against that empty window with its libraries", time[0] / time[2]);
+    orvane::bench::TableRow("peak working set, orvane.exe against the empty window with its libraries", memory[0] / memory[2]);
     orvane::bench::TableRow("orvane.exe size (KiB)", sizeKiB, kSizeGoalKiB, orvane::bench::Goal::Below);
     std::fflush(stdout);
 
