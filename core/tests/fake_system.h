@@ -58,8 +58,8 @@ public:
     OsVersion version{6, 1};
     std::vector<std::optional<std::wstring>> fileAnswers;  // consumed in order; cancelled when empty
     std::vector<MessageAnswer> answers;                    // consumed in order; Ok when empty
-    DateTime clock{2026, 11, 22, 0, 9, 5, 7}, fileTime{2025, 3, 4, 2, 17, 30, 0};
-    std::wstring separator = L",", clipboard;
+    DateTime fileTime{2025, 3, 4, 2, 17, 30, 0};
+    std::wstring clipboard;
 
     // What happened, in order. Shell verbs return 42.
     std::vector<std::wstring> journal;
@@ -119,7 +119,7 @@ public:
     }
     std::wstring specialFolder(int csidl) override { return specialFolders[csidl]; }
     OsVersion osVersion() override { return version; }
-    DateTime now() override { return clock; }
+    DateTime now() override { return {2026, 11, 22, 0, 9, 5, 7}; }
     // The picture and the numbers the locale would have spelt out.
     std::wstring dateText(const DateTime& t, S picture) override {
         return L"[" + picture + L"] " + std::to_wstring(t.year) + L"-" + std::to_wstring(t.month) + L"-" +
@@ -129,7 +129,7 @@ public:
         return L"[" + picture + L"] " + std::to_wstring(t.hour) + L":" + std::to_wstring(t.minute) + L":" +
                std::to_wstring(t.second);
     }
-    std::wstring thousandsSeparator() override { return separator; }
+    std::wstring thousandsSeparator() override { return L","; }
     MessageAnswer showMessage(S text, S caption, MessageIcon i, MessageButtons b) override {
         journal.push_back(L"message " + text);
         messages.push_back({text, caption, i, b});
