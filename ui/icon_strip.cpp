@@ -70,10 +70,20 @@ bool IconStrip::create(HWND parent) {
     wc.hCursor = LoadCursorW(nullptr, IDC_HAND);
     wc.lpszClassName = kIconStripClass;
     registerClass(wc);
-    if (!WindowBase::create(0, kIconStripClass, L"Icons", WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS, parent))
+    if (!WindowBase::create(0, kIconStripClass, L"", WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS, parent))
         return false;
     SetWindowLongPtrW(hwnd(), GWLP_ID, 1);
+    focus(0);
     return true;
+}
+
+// The strip is one window, so a screen reader hears the icon the keyboard
+// reached as the window's name: its tooltip text.
+void IconStrip::focus(int index) {
+    focused_ = index;
+    SetWindowTextW(hwnd(), WithoutAccessMarks(StripIcons()[static_cast<std::size_t>(index)].row.caption).c_str());
+    NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, hwnd(), OBJID_CLIENT, CHILDID_SELF);
+    InvalidateRect(hwnd(), nullptr, TRUE);
 }
 
 // Made while the mouse is over the strip and gone when it leaves: an idle
@@ -228,7 +238,7 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         const int pressed = std::exchange(pressed_, -1);
         ReleaseCapture();
         if (pressed >= 0 && pressed == iconAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) {
-            focused_ = pressed;
+            focus(pressed);
             run_(pressed);
         }
         return 0;
@@ -247,8 +257,7 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case VK_SPACE: run_(focused_); return 0;
         default: return 0;
         }
-        focused_ = next;
-        InvalidateRect(hwnd(), nullptr, TRUE);
+        focus(next);
         return 0;
     }
     case WM_SETFOCUS:

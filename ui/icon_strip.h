@@ -32,6 +32,7 @@ private:
     RECT iconRect(int index) const;
     int iconAt(POINT point) const;
     void setHot(int index);
+    void focus(int index);
     void showTooltips(bool shown);
     void loadIcons();
 

@@ -169,39 +169,68 @@ bool AnswerFileDialog(HWND dialog, const std::wstring& fileName) {
     return true;
 }
 
-std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
-    // The list writes the text through the item's pointer in its own process,
-    // so the item and the buffer are placed there and the text read back.
-    constexpr int kChars = 1024;
-    DWORD processId = 0;
-    GetWindowThreadProcessId(listView, &processId);
-    const std::unique_ptr<void, decltype(&CloseHandle)> process(
-        OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, processId), CloseHandle);
-    if (!process) return {};
-    const auto release = [&](void* block) { VirtualFreeEx(process.get(), block, 0, MEM_RELEASE); };
-    const std::unique_ptr<void, decltype(release)> block(
-        VirtualAllocEx(process.get(), nullptr, sizeof(LVITEMW) + kChars * sizeof(wchar_t), MEM_COMMIT | MEM_RESERVE,
-                       PAGE_READWRITE),
-        release);
-    if (!block) return {};
-    auto* remoteText = reinterpret_cast<wchar_t*>(static_cast<char*>(block.get()) + sizeof(LVITEMW));
+namespace {
 
-    std::vector<std::wstring> texts;
-    for (int row = 0, rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); row < rows; ++row) {
-        // Written for every row: the list may change the item it is handed.
-        LVITEMW item{};
-        item.mask = LVIF_TEXT;
-        item.iSubItem = column;
-        item.pszText = remoteText;
-        item.cchTextMax = kChars;
-        std::wstring text(kChars, L'\0');
-        if (!WriteProcessMemory(process.get(), block.get(), &item, sizeof item, nullptr) ||
-            !SendMessageW(listView, LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(block.get())) ||
-            !ReadProcessMemory(process.get(), remoteText, text.data(), text.size() * sizeof(wchar_t), nullptr))
-            text.clear();
-        texts.push_back(text.c_str());
+// A list view writes texts through pointers in its own process, so the
+// request and its text buffer are placed there and the text read back.
+class RemoteText {
+public:
+    static constexpr int kChars = 1024;
+
+    explicit RemoteText(HWND window) {
+        DWORD processId = 0;
+        GetWindowThreadProcessId(window, &processId);
+        process_.reset(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, processId));
+        if (process_)
+            block_ = VirtualAllocEx(process_.get(), nullptr, kBytes, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     }
+    ~RemoteText() {
+        if (block_) VirtualFreeEx(process_.get(), block_, 0, MEM_RELEASE);
+    }
+
+    // Sends the message with the request (an LVITEMW or LVCOLUMNW); empty when it fails.
+    template <class Request>
+    std::wstring ask(HWND window, UINT message, WPARAM wParam, Request request) {
+        static_assert(sizeof(Request) <= kRequestBytes);
+        auto* remoteText = reinterpret_cast<wchar_t*>(static_cast<char*>(block_) + kRequestBytes);
+        request.pszText = remoteText;
+        request.cchTextMax = kChars;
+        std::wstring text(kChars, L'\0');
+        if (!block_ || !WriteProcessMemory(process_.get(), block_, &request, sizeof request, nullptr) ||
+            !SendMessageW(window, message, wParam, reinterpret_cast<LPARAM>(block_)) ||
+            !ReadProcessMemory(process_.get(), remoteText, text.data(), text.size() * sizeof(wchar_t), nullptr))
+            return {};
+        return text.c_str();
+    }
+
+private:
+    static constexpr std::size_t kRequestBytes = 256, kBytes = kRequestBytes + kChars * sizeof(wchar_t);
+    std::unique_ptr<void, decltype(&CloseHandle)> process_{nullptr, CloseHandle};
+    void* block_ = nullptr;
+};
+
+}  // namespace
+
+std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
+    RemoteText remote(listView);
+    LVITEMW item{};
+    item.mask = LVIF_TEXT;
+    item.iSubItem = column;
+    std::vector<std::wstring> texts;
+    for (int row = 0, rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); row < rows; ++row)
+        texts.push_back(remote.ask(listView, LVM_GETITEMTEXTW, row, item));
     return texts;
+}
+
+std::vector<std::wstring> ListViewColumns(HWND listView) {
+    RemoteText remote(listView);
+    const auto header = reinterpret_cast<HWND>(SendMessageW(listView, LVM_GETHEADER, 0, 0));
+    LVCOLUMNW request{};
+    request.mask = LVCF_TEXT;
+    std::vector<std::wstring> titles;
+    for (int column = 0, columns = static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)); column < columns; ++column)
+        titles.push_back(remote.ask(listView, LVM_GETCOLUMNW, column, request));
+    return titles;
 }
 
 std::vector<bool> ListViewChecks(HWND listView) {

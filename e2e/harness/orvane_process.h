@@ -123,5 +123,19 @@ std::vector<std::wstring> ListViewTexts(HWND listView, int column);
 std::vector<bool> ListViewChecks(HWND listView);
 // The text on the clipboard, empty when it holds none.
 std::wstring ClipboardText();
+// The titles of a list view's columns, as a screen reader names them.
+std::vector<std::wstring> ListViewColumns(HWND listView);
+
+// What a keyboard or screen-reader user meets in a window.
+
+// Access keys (the letter after "&") carried twice among the window's visible
+// controls and its menu bar, or among one menu's items: "K: text, text".
+std::vector<std::wstring> AccessKeyClashes(HWND window);
+// Visible controls a screen reader would announce without a name: buttons
+// and the icon strip without text, list view columns without a title.
+std::vector<std::wstring> UnnamedControls(HWND window);
+// The controls the focus visits as Tab is pressed, from the focused one,
+// until it comes back to one already visited.
+std::vector<HWND> TabCycle(HWND window);
 
 }  // namespace orvane::e2e

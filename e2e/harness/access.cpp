@@ -1,0 +1,109 @@
+// A keyboard or screen-reader user's view of a window, read from outside it.
+#include "orvane_process.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cwctype>
+#include <map>
+
+#include "win_support.h"
+
+namespace orvane::e2e {
+
+using namespace testsupport;
+
+namespace {
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[64] = {};
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+// The visible controls inside the window, at any depth.
+std::vector<HWND> VisibleControls(HWND window) {
+    std::vector<HWND> controls;
+    EnumChildWindows(
+        window,
+        [](HWND control, LPARAM found) {
+            if (IsWindowVisible(control)) reinterpret_cast<std::vector<HWND>*>(found)->push_back(control);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&controls));
+    return controls;
+}
+
+// The letter after a single "&", upper-cased; 0 when there is none.
+wchar_t AccessKey(const std::wstring& text) {
+    for (std::size_t at = 0; (at = text.find(L'&', at)) != std::wstring::npos && at + 1 < text.size(); at += 2)
+        if (text[at + 1] != L'&') return static_cast<wchar_t>(std::towupper(text[at + 1]));
+    return 0;
+}
+
+// Texts that carry one key among several, as "K: text, text".
+void AddClashes(const std::vector<std::wstring>& texts, std::vector<std::wstring>& clashes) {
+    std::map<wchar_t, std::vector<std::wstring>> carriers;
+    for (const std::wstring& text : texts)
+        if (const wchar_t key = AccessKey(text)) carriers[key].push_back(text);
+    for (const auto& [key, carrying] : carriers) {
+        if (carrying.size() < 2) continue;
+        std::wstring clash{key, L':'};
+        for (const std::wstring& text : carrying) clash += L" " + text;
+        clashes.push_back(clash);
+    }
+}
+
+}  // namespace
+
+std::vector<std::wstring> AccessKeyClashes(HWND window) {
+    // The menu bar's items share the Alt keys with the controls; each menu's items have their own.
+    std::map<int, std::vector<std::wstring>> menus;  // by the index of the item that opens it, -1 the bar
+    std::vector<int> openers{-1};
+    const std::vector<MenuItem> items = GetMenu(window) ? ReadMenu(window) : std::vector<MenuItem>{};
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        openers.resize(static_cast<std::size_t>(items[i].depth) + 1);
+        menus[openers.back()].push_back(items[i].text.substr(0, items[i].text.find(L'\t')));
+        openers.push_back(static_cast<int>(i));
+    }
+    for (HWND control : VisibleControls(window))
+        if (ClassOf(control) != L"Edit" && ClassOf(control) != WC_LISTVIEWW) menus[-1].push_back(TextOf(control));
+    std::vector<std::wstring> clashes;
+    for (const auto& [opener, texts] : menus) AddClashes(texts, clashes);
+    return clashes;
+}
+
+std::vector<std::wstring> UnnamedControls(HWND window) {
+    std::vector<std::wstring> unnamed;
+    for (HWND control : VisibleControls(window)) {
+        const std::wstring type = ClassOf(control);
+        const bool frame = type == L"Button" && (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+        if ((type == L"Button" || type == L"Orvane.IconStrip") && !frame && TextOf(control).empty())
+            unnamed.push_back(type + L" " + std::to_wstring(GetDlgCtrlID(control)));
+        if (type == WC_LISTVIEWW)
+            for (const std::wstring& title : ListViewColumns(control))
+                if (title.empty()) unnamed.push_back(L"column of list " + std::to_wstring(GetDlgCtrlID(control)));
+    }
+    return unnamed;
+}
+
+std::vector<HWND> TabCycle(HWND window) {
+    const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+    const auto focus = [thread] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return GetGUIThreadInfo(thread, &info) ? info.hwndFocus : nullptr;
+    };
+    std::vector<HWND> visited{focus()};
+    while (visited.size() < 300) {
+        PressKeys(window, {VK_TAB});
+        // One stop alone keeps the focus where it is.
+        if (!WaitFor([&] { return focus() != visited.back(); }, 1s)) break;
+        const HWND now = focus();
+        if (std::find(visited.begin(), visited.end(), now) != visited.end()) break;
+        visited.push_back(now);
+    }
+    return visited;
+}
+
+}  // namespace orvane::e2e
