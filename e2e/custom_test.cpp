@@ -6,6 +6,7 @@
 #include <regex>
 
 #include "orvane_process.h"
+#include "program_windows.h"
 #include "resource.h"
 #include "win_support.h"
 
@@ -13,18 +14,6 @@ namespace orvane::e2e {
 namespace {
 
 using namespace testsupport;
-
-struct Entry {
-    std::string name, program, folder;
-};
-
-// The 192 lines of a list file: 64 names, 64 programs, 64 folders.
-std::string ListFile(const std::vector<Entry>& entries) {
-    std::string text;
-    for (std::string Entry::*field : {&Entry::name, &Entry::program, &Entry::folder})
-        for (std::size_t i = 0; i < 64; ++i) text += (i < entries.size() ? entries[i].*field : "") + "\r\n";
-    return text;
-}
 
 class CustomPrograms : public ::testing::Test {
 protected:
@@ -67,10 +56,10 @@ TEST_F(CustomPrograms, EnterStartsTheRowInItsFolderBlankRowsDoNothingMissingProg
     CreateDirectoryW((folder.path() + L"\\start").c_str(), nullptr);
     CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder.path() + L"\\My Tools", L"run me.exe");
     const std::string program = path(L"My Tools\\run me.exe");
-    HWND dialog = open(ListFile({{"Caf\xe9", program, path(L"start")},
-                                 {"  ", program, ""},
-                                 {"Gone", path(L"gone.exe"), ""},
-                                 {"Delta", program, ""}}));
+    HWND dialog = open(CustomListFile({{"Caf\xe9", program, path(L"start")},
+                                       {"  ", program, ""},
+                                       {"Gone", path(L"gone.exe"), ""},
+                                       {"Delta", program, ""}}));
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(Names(dialog, IDC_GRID1, 2), (std::vector<std::wstring>{L"Caf\u00e9", L"  "}));
     EXPECT_EQ(Names(dialog, IDC_GRID2, 2), (std::vector<std::wstring>{L"Gone", L"Delta"}));
@@ -103,7 +92,7 @@ TEST_F(CustomPrograms, EnterStartsTheRowInItsFolderBlankRowsDoNothingMissingProg
 TEST_F(CustomPrograms, InformationIsCopiedTheEntryDialogTogglesX86AndTheEditorSavesAFreshFileAndDropsWhatWasNotSaved) {
     // A folder long enough for the size to need its thousands separator.
     const std::string deep = "C:\\" + std::string(1200, 'd');
-    const std::string list = ListFile({{"One", "D:\\Tools\\Editors\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", deep}});
+    const std::string list = CustomListFile({{"One", "D:\\Tools\\Editors\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", deep}});
     HWND dialog = open(list);
     ASSERT_NE(dialog, nullptr);
     ASSERT_EQ(Names(dialog, IDC_GRID1, 1).size(), 1u);
@@ -151,7 +140,7 @@ TEST_F(CustomPrograms, InformationIsCopiedTheEntryDialogTogglesX86AndTheEditorSa
     const std::wstring saved = folder.path() + L"\\New.lst";
     ASSERT_TRUE(WaitFor([&] { return GetFileAttributesW(saved.c_str()) != INVALID_FILE_ATTRIBUTES; }, 10s));
     EXPECT_EQ(ReadBytes(saved),
-              ListFile({{"Uno", "D:\\Tools\\Editors (x86)\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", deep}}));
+              CustomListFile({{"Uno", "D:\\Tools\\Editors (x86)\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", deep}}));
     EXPECT_TRUE(WaitFor([&] { return TextOf(editor) == L"Custom programs ( " + saved + L" )"; }, 5s));
 
     SetControlText(lines, IDC_FIRST_NAME_FIELD + 1, L"Not saved");

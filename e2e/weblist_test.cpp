@@ -8,6 +8,7 @@
 #include <tuple>
 
 #include "orvane_process.h"
+#include "program_windows.h"
 
 #include <commctrl.h>
 
@@ -18,13 +19,6 @@ namespace orvane::e2e {
 namespace {
 
 using namespace testsupport;
-
-// A web list file: three lines per row (name, address, check), "***", the groups, a final empty line.
-std::string WebListFile(const std::vector<std::array<std::string, 3>>& rows, const std::string& groups = "") {
-    std::string text;
-    for (const auto& row : rows) text += row[0] + "\r\n" + row[1] + "\r\n" + row[2] + "\r\n";
-    return text + "***\r\n" + groups + "\r\n";
-}
 
 class WebList : public ::testing::Test {
 protected:

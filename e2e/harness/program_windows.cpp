@@ -1,0 +1,124 @@
+#include "program_windows.h"
+
+#include <cstdio>
+
+#include "resource.h"
+#include "wallpaper.h"
+#include "win_support.h"
+
+namespace orvane::e2e {
+
+using namespace testsupport;
+
+namespace {
+
+constexpr wchar_t kPopupMenuClass[] = L"#32768";
+
+bool Gone(HWND window) { return WaitFor([&] { return !IsWindow(window); }, 5s); }
+
+HWND FromMenu(const OrvaneProcess& orvane, HWND window, const wchar_t* caption, const wchar_t* title) {
+    return PickMenuItem(window, caption) ? WaitForDialogTitled(orvane.id(), title) : nullptr;
+}
+
+// An item of the custom programs window's popup menu, by its access letter from the keyboard.
+HWND FromCustomPopup(const OrvaneProcess& orvane, HWND bar, WORD letter, const wchar_t* title) {
+    HWND custom = FromMenu(orvane, bar, L"C&ustom programs", L"Custom programs");
+    if (!custom) return nullptr;
+    PressKeys(custom, {VK_SHIFT, VK_F10});
+    if (!WaitFor([&] { return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr; }, 5s)) return nullptr;
+    PressKeys(custom, {letter});
+    return WaitForDialogTitled(orvane.id(), title);
+}
+
+HWND ListEditor(const OrvaneProcess& orvane, HWND bar) { return FromCustomPopup(orvane, bar, 'E', L"Custom programs ( *"); }
+
+// Esc in the window, then in each window it was opened from, down to the bar.
+bool EscapeToBar(const OrvaneProcess&, HWND window) {
+    while (window) {
+        HWND owner = GetWindow(window, GW_OWNER);
+        wchar_t type[64] = {};
+        GetClassNameW(owner, type, 64);
+        // Pressed again, as a user would, when the window lost it: the custom programs
+        // window reads its list again after the editor closes, dispatching its
+        // pending messages without the dialog manager, so an Esc then is not seen.
+        for (int press = 0; press < 2 && IsWindow(window); ++press) {
+            PressKeys(window, {VK_ESCAPE});
+            WaitFor([&] { return !IsWindow(window); }, press ? 5s : 1s);
+        }
+        if (IsWindow(window)) return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
+        window = std::wstring(type) == kMainWindowClass ? nullptr : owner;
+    }
+    return true;
+}
+
+// Esc asks for the return password; none being set, an empty answer lets the user out.
+bool LeaveWallpaper(const OrvaneProcess& orvane, HWND window) {
+    PressKeys(window, {VK_ESCAPE});
+    HWND box = WaitForDialogTitled(orvane.id(), L"Orvane");
+    if (!box || ControlText(box, IDC_PROMPT) != kPasswordPrompt) return false;
+    PressButton(box, IDOK);
+    return Gone(box) && Gone(window);
+}
+
+}  // namespace
+
+// clang-format off
+const std::vector<ProgramWindow> kProgramWindows = {
+    {L"about", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"&About this program", L"About Orvane"); }, EscapeToBar},
+    {L"locations", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"&Location of programs", L"Location of programs"); }, EscapeToBar},
+    {L"your program", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"Load your program", L"Load your program"); }, EscapeToBar},
+    {L"menu font", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"Set me&nu font", L"Font"); }, EscapeToBar},
+    {L"input box", [](const OrvaneProcess& o, HWND bar) {
+        HWND box = FromMenu(o, bar, L"Web interface U&RL", L"Orvane");
+        return box && GetDlgItem(box, IDC_BOX_TEXT) ? box : nullptr; }, EscapeToBar},  // not a message box
+    {L"skin chooser", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"Change &skin", L"Change skin"); }, EscapeToBar},
+    // The bar's clock item starts the suite's clock program; this window is the custom programs' one.
+    {L"clock", [](const OrvaneProcess& o, HWND bar) {
+        HWND custom = FromMenu(o, bar, L"C&ustom programs", L"Custom programs");
+        if (custom) PressButton(custom, GetDlgCtrlID(FindWindowExW(custom, nullptr, L"Button", L"&Clock")));
+        return custom ? WaitForDialogTitled(o.id(), L"Clock") : nullptr; }, EscapeToBar},
+    {L"custom programs", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"C&ustom programs", L"Custom programs"); }, EscapeToBar},
+    {L"list editor", ListEditor, EscapeToBar},
+    {L"entry", [](const OrvaneProcess& o, HWND bar) {
+        HWND editor = ListEditor(o, bar);
+        if (editor) PressButton(editor, IDC_GET_PROGRAM);
+        return editor ? WaitForDialogTitled(o.id(), L"Program and startup folder") : nullptr; }, EscapeToBar},
+    {L"file information", [](const OrvaneProcess& o, HWND bar) {
+        return FromCustomPopup(o, bar, 'I', L"File information"); }, EscapeToBar},
+    {L"web list", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"Open &web list", L"Website list*"); }, EscapeToBar},
+    {L"wallpaper", [](const OrvaneProcess& o, HWND bar) {
+        return FromMenu(o, bar, L"Wa&llpaper", L"Wallpaper"); }, LeaveWallpaper},
+};
+// clang-format on
+
+void PrepareForEveryWindow(const ProgramFolder& folder) {
+    const std::wstring at = folder.path() + L"\\";
+    WriteBytes(at + L"Programs.lst",
+               CustomListFile({{"Notes", "C:\\windows\\notepad.exe", "C:\\windows"}, {"Probe", "C:\\probe.exe", ""}}));
+    WriteBytes(at + L"Sites.lst", WebListFile({{"Alpha", "http://a", "1"}, {"Beta", "http://b", "0"}}));
+    CopyInto(EnvironmentPath(L"ORVANE_PICTURES") + L"\\Wallpaper_Wide.png", folder.path());
+    WriteBytes(folder.settingsFile(), SettingsText({{20, Utf8(folder.path())}, {28, Utf8(at + L"Programs.lst")},
+                                                    {30, Utf8(at + L"Wallpaper_Wide.png")}, {33, Utf8(at + L"Sites.lst")}}));
+}
+
+std::string CustomListFile(const std::vector<CustomEntry>& entries) {
+    std::string text;
+    for (std::string CustomEntry::*field : {&CustomEntry::name, &CustomEntry::program, &CustomEntry::folder})
+        for (std::size_t i = 0; i < 64; ++i) text += (i < entries.size() ? entries[i].*field : "") + "\r\n";
+    return text;
+}
+
+std::string WebListFile(const std::vector<std::array<std::string, 3>>& rows, const std::string& groups) {
+    std::string text;
+    for (const auto& row : rows) text += row[0] + "\r\n" + row[1] + "\r\n" + row[2] + "\r\n";
+    return text + "***\r\n" + groups + "\r\n";
+}
+
+}  // namespace orvane::e2e
