@@ -87,21 +87,36 @@ std::vector<std::wstring> UnnamedControls(HWND window) {
     return unnamed;
 }
 
-std::vector<HWND> TabCycle(HWND window) {
+std::vector<FocusStop> TabCycle(HWND window) {
     const DWORD thread = GetWindowThreadProcessId(window, nullptr);
     const auto focus = [thread] {
         GUITHREADINFO info{};
         info.cbSize = sizeof info;
         return GetGUIThreadInfo(thread, &info) ? info.hwndFocus : nullptr;
     };
-    std::vector<HWND> visited{focus()};
-    while (visited.size() < 300) {
+    const auto stop = [&](HWND control) {
+        FocusStop at{control, {}, IsWindowVisible(control) != FALSE};
+        GetWindowRect(control, &at.place);
+        RECT shown = at.place;
+        for (HWND parent = GetParent(control); parent && at.seen; parent = GetParent(parent)) {
+            RECT view{};
+            GetClientRect(parent, &view);
+            MapWindowPoints(parent, nullptr, reinterpret_cast<POINT*>(&view), 2);
+            at.seen = IntersectRect(&shown, &shown, &view) != FALSE;
+            if (parent == window) break;
+        }
+        return at;
+    };
+    std::vector<FocusStop> visited{stop(focus())};
+    while (visited.size() < 300 && IsWindow(window)) {
         PressKeys(window, {VK_TAB});
         // One stop alone keeps the focus where it is.
-        if (!WaitFor([&] { return focus() != visited.back(); }, 1s)) break;
+        if (!WaitFor([&] { return focus() != visited.back().control; }, 1s)) break;
         const HWND now = focus();
-        if (std::find(visited.begin(), visited.end(), now) != visited.end()) break;
-        visited.push_back(now);
+        if (std::ranges::find(visited, now, &FocusStop::control) != visited.end()) break;
+        FocusStop at;
+        WaitFor([&] { return (at = stop(now)).seen; }, 1s);  // a panel scrolls its new focus into view
+        visited.push_back(at);
     }
     return visited;
 }

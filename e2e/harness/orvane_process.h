@@ -134,8 +134,15 @@ std::vector<std::wstring> AccessKeyClashes(HWND window);
 // Visible controls a screen reader would announce without a name: buttons
 // and the icon strip without text, list view columns without a title.
 std::vector<std::wstring> UnnamedControls(HWND window);
-// The controls the focus visits as Tab is pressed, from the focused one,
+// A control the focus reached: where it was then, and whether it could be
+// seen there (visible, and not scrolled or placed out of its parents' view).
+struct FocusStop {
+    HWND control = nullptr;
+    RECT place{};
+    bool seen = false;
+};
+// The stops the focus makes as Tab is pressed, from the focused control,
 // until it comes back to one already visited.
-std::vector<HWND> TabCycle(HWND window);
+std::vector<FocusStop> TabCycle(HWND window);
 
 }  // namespace orvane::e2e

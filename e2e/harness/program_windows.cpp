@@ -104,7 +104,7 @@ void PrepareForEveryWindow(const ProgramFolder& folder) {
                CustomListFile({{"Notes", "C:\\windows\\notepad.exe", "C:\\windows"}, {"Probe", "C:\\probe.exe", ""}}));
     WriteBytes(at + L"Sites.lst", WebListFile({{"Alpha", "http://a", "1"}, {"Beta", "http://b", "0"}}));
     CopyInto(EnvironmentPath(L"ORVANE_PICTURES") + L"\\Wallpaper_Wide.png", folder.path());
-    WriteBytes(folder.settingsFile(), SettingsText({{20, Utf8(folder.path())}, {28, Utf8(at + L"Programs.lst")},
+    WriteBytes(folder.settingsFile(), SettingsText({{13, "480"}, {20, Utf8(folder.path())}, {38, "1"}, {39, "19200"}, {28, Utf8(at + L"Programs.lst")},
                                                     {30, Utf8(at + L"Wallpaper_Wide.png")}, {33, Utf8(at + L"Sites.lst")}}));
 }
 
