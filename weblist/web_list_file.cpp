@@ -57,7 +57,10 @@ std::optional<std::wstring> FormatWebList(const WebListContent& content) {
     for (const std::wstring& group : content.groups) {
         const std::wstring trimmed = TrimBlanks(group);
         if (trimmed.empty() || group == kDeletionMark) continue;
-        text += trimmed + L"\r\n";
+        // Flush left, a group starting ";" or "***" would read back as a comment or
+        // as the groups' marker and be lost: one blank keeps it, and reading trims it.
+        const bool guarded = trimmed.starts_with(L';') || trimmed.starts_with(L"***");
+        text += (guarded ? L" " : L"") + trimmed + L"\r\n";
     }
     return text + L"\r\n";
 }

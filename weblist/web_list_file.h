@@ -38,8 +38,9 @@ struct WebListContent {
 WebListContent ParseWebList(std::wstring_view text);
 
 // The file's text: each line ends in CR LF, the whole in one more. Rows named
-// "---", empty groups and groups marked "---" are left out. Nothing when the
-// list has more rows than a file can hold.
+// "---", empty groups and groups marked "---" are left out; groups are trimmed,
+// and one starting ";" or "***" keeps one leading blank so that it reads back.
+// Nothing when the list has more rows than a file can hold.
 std::optional<std::wstring> FormatWebList(const WebListContent& content);
 
 }  // namespace orvane

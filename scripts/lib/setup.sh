@@ -21,6 +21,8 @@ ensure_packages() {
 }
 
 NATIVE_PACKAGES=(cmake ninja-build g++ libgtest-dev)
+# The sanitizers and libFuzzer come with clang's runtime package.
+SANITIZE_PACKAGES=(cmake ninja-build clang libclang-rt-14-dev libgtest-dev)
 # The menu icons are built from the Tango theme with python3 and rsvg-convert.
 WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine xvfb xauth
   python3 librsvg2-bin tango-icon-theme)
@@ -29,6 +31,34 @@ build_preset() {
   say "building ($1)"
   cmake --preset "$1" >/dev/null
   cmake --build --preset "$1"
+}
+
+# Runs every fuzz target of the sanitize build for $1 seconds each, from its
+# seeds and the demo's files, in a scratch corpus under build/ that grows from
+# run to run. A crash fails the run; its input is kept in build/fuzz-artifacts/.
+fuzz_all() {
+  local seconds=$1 failed=() target corpus log
+  local build="$ORVANE_ROOT/build" fuzz="$ORVANE_ROOT/tests/fuzz"
+  mkdir -p "$build/fuzz-artifacts" "$build/fuzz-logs"
+  for target in settings custom_list web_list numbers ansi picture; do
+    corpus="$build/fuzz-corpus/$target"
+    mkdir -p "$corpus"
+    case $target in
+      settings) cp "$ORVANE_ROOT/demo/Orvane.ini" "$corpus/" ;;
+      custom_list) cp "$ORVANE_ROOT/demo/Programs.lst" "$corpus/" ;;
+      web_list) cp "$ORVANE_ROOT/demo/Websites.lst" "$corpus/" ;;
+    esac
+    log="$build/fuzz-logs/$target.log"
+    if "$build/sanitize/tests/fuzz/${target}_fuzz" -max_total_time="$seconds" -timeout=10 \
+        -artifact_prefix="$build/fuzz-artifacts/$target-" "$corpus" "$fuzz/seeds/$target" >"$log" 2>&1; then
+      printf '%-12s %s\n' "$target" "$(grep -o 'Done [0-9]* runs in [0-9]* second(s)' "$log")"
+    else
+      failed+=("$target")
+      printf '%-12s FAILED (log: %s)\n' "$target" "$log"
+      grep -E 'ERROR|property broken|runtime error|Test unit written' "$log" | head -5
+    fi
+  done
+  [ ${#failed[@]} -eq 0 ] || { say "fuzzing found faults in: ${failed[*]}"; return 1; }
 }
 
 source "$ORVANE_ROOT/scripts/lib/wine-env.sh"

@@ -58,6 +58,8 @@ TEST(WebListFile, ReadsAndWritesTheDesignedCases) {
          L"a\r\nA\r\n1\r\nB\r\n0\r\n0\r\n***\r\n\r\n"},
         {"CR alone ends a line, LF alone does not", L"a\rA\nB\r1\r***more\r  g1  \r\n---\r\n  \r", L"a|A\nB+ ", 3,
          L"a\r\nA\nB\r\n1\r\n***\r\ng1\r\n\r\n"},
+        {"a group that would read as a comment or the marker keeps one blank", L"***\r\n  ;g\r\n ***h\r\n", L"", 2,
+         L"***\r\n ;g\r\n ***h\r\n\r\n"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);

@@ -1,0 +1,31 @@
+// Shared by the fuzz targets: input bytes become text the way a file's do, and
+// a broken property stops the run so libFuzzer keeps the input.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "fake_system.h"
+
+namespace orvane::fuzz {
+
+inline std::string Bytes(const std::uint8_t* data, std::size_t size) {
+    return std::string(reinterpret_cast<const char*>(data), size);
+}
+
+// Files are 8-bit text in the ANSI code page; the fake converts as Windows-1252 does.
+inline std::wstring AnsiText(const std::uint8_t* data, std::size_t size) {
+    return testing::DecodeWindows1252(Bytes(data, size));
+}
+
+inline void Fail(const char* what, const char* file, int line) {
+    std::fprintf(stderr, "%s:%d: property broken: %s\n", file, line, what);
+    std::abort();
+}
+
+}  // namespace orvane::fuzz
+
+#define FUZZ_CHECK(condition) ((condition) ? void() : orvane::fuzz::Fail(#condition, __FILE__, __LINE__))
