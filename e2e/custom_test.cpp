@@ -39,13 +39,6 @@ protected:
         Sleep(300);
         PressKeys(dialog, {letter});
     }
-    // The window with the keyboard focus in the thread of this one.
-    static HWND FocusOf(HWND window) {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-        return info.hwndFocus;
-    }
 
     ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
     std::unique_ptr<OrvaneProcess> orvane;

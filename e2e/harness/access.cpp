@@ -87,13 +87,14 @@ std::vector<std::wstring> UnnamedControls(HWND window) {
     return unnamed;
 }
 
+HWND FocusOf(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
+}
+
 std::vector<FocusStop> TabCycle(HWND window) {
-    const DWORD thread = GetWindowThreadProcessId(window, nullptr);
-    const auto focus = [thread] {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        return GetGUIThreadInfo(thread, &info) ? info.hwndFocus : nullptr;
-    };
+    const auto focus = [window] { return FocusOf(window); };
     const auto stop = [&](HWND control) {
         FocusStop at{control, {}, IsWindowVisible(control) != FALSE};
         GetWindowRect(control, &at.place);

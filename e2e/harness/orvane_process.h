@@ -134,6 +134,8 @@ std::vector<std::wstring> AccessKeyClashes(HWND window);
 // Visible controls a screen reader would announce without a name: buttons
 // and the icon strip without text, list view columns without a title.
 std::vector<std::wstring> UnnamedControls(HWND window);
+// The control with the keyboard focus in the thread of this window.
+HWND FocusOf(HWND window);
 // A control the focus reached: where it was then, and whether it could be
 // seen there (visible, and not scrolled or placed out of its parents' view).
 struct FocusStop {
