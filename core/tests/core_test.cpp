@@ -43,10 +43,10 @@ std::string File(bool distinct, const std::map<int, std::string>& changed = {}) 
 // A window that takes sizes in whole pixels of 15 twips, as at 96 DPI, and records what it is told.
 class FakeHost : public MainWindowHost {
     using S = const std::wstring&;
+    void set(std::int32_t& e, std::wstring name, int v) { calls.push_back(name + std::to_wstring(v)); e = v / 15 * 15; }
 
 public:
     bool earlierInstance = false;
-    WindowRef earlierWindow = 0;  // what a search for the application window finds
     std::wstring title = L"Orvane";
     TwipsRect rect, area{0, 0, 19200, 11520};
     Lines calls;
@@ -54,11 +54,10 @@ public:
     bool earlierInstanceRunning() override { return earlierInstance; }
     std::wstring programTitle() override { return title; }
     void setProgramTitle(S t) override { calls.push_back(L"title " + (title = t)); }
-    WindowRef findApplicationWindow(S t) override { calls.push_back(L"find " + t); return earlierWindow; }
+    WindowRef findApplicationWindow(S t) override { calls.push_back(L"find " + t); return 0; }  // the copy runs on
     void endProcessNow() override { calls.push_back(L"end"); }
     void initCommonControls() override { calls.push_back(L"initCommonControls"); }
     WindowRef handle() override { return 500; }
-    void set(std::int32_t& e, std::wstring name, int v) { calls.push_back(name + std::to_wstring(v)); e = v / 15 * 15; }
     void setTop(std::int32_t v) override { set(rect.top, L"top ", v); }
     void setLeft(std::int32_t v) override { set(rect.left, L"left ", v); }
     void setWidth(std::int32_t v) override { set(rect.width, L"width ", v); }
@@ -301,89 +300,51 @@ TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNa
     EXPECT_EQ(app.LastLaunchResult, 42);
 }
 
-// Start-up and unload.
+// Start-up: what only the fake window shows; the e2e StartUp tests cover the first start, a second copy and unloading.
 
-TEST_F(Core, FirstStartOpensTheSingleStripBarThoughACopyWithoutAWindowIsReportedAndUnloadWritesTheSettings) {
-    sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"C:\\Program Files";
-    sys.specialFolders[5] = std::wstring(L"C:\\users\\ann\\Documents\0\0\0", 26);  // cut at the first NUL
-    host.earlierInstance = true;
+TEST_F(Core, StartUpCallsTheWindowInOrderAndPlacesItAtTopOnlyWhereItsTopMeetsTheWorkAreaAndNoWider) {
+    host.earlierInstance = true;  // a copy without a window is reported and runs on
     EXPECT_EQ(start(), LoadOutcome::Running);
-    EXPECT_EQ(std::tie(app.SettingsFilePath, app.ListFileFilter, app.OsVersionName, app.ProgramFilesFolder,
-                       app.DocumentsFolder, app.settings.SkinFile, app.MainWindowRef),
-              std::tuple(kIni, L"List files (*.lst)|*.lst|All files (*.*)|*.*", L"Win 7 + later",
-                         L"C:\\Program Files\\", L"C:\\users\\ann\\Documents\\", L"C:\\Orvane\\Skin_Alba.bmp", 500u));
-    EXPECT_EQ(std::pair(state.systemIsVersion6OrLater, state.atTop), std::pair(true, true));
     EXPECT_EQ(host.calls, (Lines{L"title Redundant instance", L"find Orvane", L"title Orvane", L"initCommonControls",
                                  L"top 0", L"left 0", L"width 0", L"height 0", L"iconStrip",
                                  L"skin C:\\Orvane\\Skin_Alba.bmp", L"menuBar", L"openingSize"}));
-
-    host.rect = {150, 300, 16065, 1020};  // the user moved it; unload records it and writes the settings once
-    UnloadMainWindow(app, host);
-    EXPECT_EQ(sys.journal, (Lines{kNotFound + kIni + L"\r\n\r\n", L"cursor", L"write " + kIni}));
-    EXPECT_EQ(sys.files[kIni], File(false, {{1, "300"}, {2, "150"}, {10, "16065"}, {11, "1020"}, {12, "15790320"},
-                                            {19, "C:\\Orvane\\Skin_Alba.bmp"}}));
-}
-
-TEST_F(Core, TheWindowIsPlacedFromTheSettingsAtTopOnlyWhereItsTopMeetsTheWorkAreaAndNoWiderAndWithAUsableSkin) {
+    host.earlierInstance = false;
     for (const auto& [areaTop, atTop] : {std::pair{0, false}, {300, true}, {315, false}}) {
         host.area.top = areaTop;
         start({{1, "301"}, {2, "1207"}, {10, "9000"}, {11, "2000"}, {39, "12000"}});
-        EXPECT_EQ(Lines(host.calls.begin(), host.calls.begin() + 5),
-                  (Lines{L"initCommonControls", L"top 301", L"left 1207", L"width 9000", L"height 2000"}));
-        EXPECT_EQ(std::pair(app.settings.MainTop, app.settings.MainLeft), std::pair(300, 1200)) << "as taken";
-        EXPECT_EQ(std::pair(state.atTop, app.settings.ExpandedWidth), std::pair(atTop, 12000)) << areaTop;
+        EXPECT_EQ(host.calls[1], L"top 301");  // given as read; kept as the window took it
+        EXPECT_EQ(std::tuple(app.settings.MainTop, app.settings.MainLeft, state.atTop, app.settings.ExpandedWidth),
+                  std::tuple(300, 1200, atTop, 12000)) << areaTop;
     }
-    EXPECT_TRUE(sys.messages.empty());
     start({{38, "1"}, {39, "30000"}});
     EXPECT_EQ(app.settings.ExpandedWidth, 19200) << "no wider than the work area";
-    // A usable skin is kept and any other falls back to the default.
-    sys.addFile(L"D:\\Skins\\Skin_Blue.BMP");
-    sys.addFile(L"D:\\Skins\\Skin_Blue.png");
-    const std::wstring fallback = L"C:\\Orvane\\Skin_Alba.bmp";
-    for (const auto& [skin, used] : {std::pair{"D:\\Skins\\Skin_Blue.BMP", L"D:\\Skins\\Skin_Blue.BMP"},
-                                     {"D:\\Skins\\Skin_Gone.bmp", fallback.c_str()},
-                                     {"D:\\Skins\\Skin_Blue.png", fallback.c_str()}}) {
-        start({{19, skin}});
-        EXPECT_EQ(app.settings.SkinFile, used) << skin;
-        EXPECT_EQ(host.calls[6], L"skin " + std::wstring(used));
-    }
-    // The chooser's pick: one backslash between folder and file, whether the folder ends with one or not.
-    for (const wchar_t* folder : {L"C:\\Skins\\", L"C:\\Skins"})
-        EXPECT_EQ(SkinPathInFolder(folder, L"Skin_Blue.bmp"), L"C:\\Skins\\Skin_Blue.bmp") << folder;
-}
-
-TEST_F(Core, SecondCopyBringsTheFirstForwardAndDoesNothingElse) {
-    host.earlierInstance = true;
-    host.earlierWindow = 40;
-    sys.zOrderAbove = {{40, 41}, {41, 42}};
-    EXPECT_EQ(start({{1, "100"}}), LoadOutcome::HandedOver);
-    EXPECT_EQ(host.calls, (Lines{L"title Redundant instance", L"find Orvane", L"end"}));
-    Lines rounds;  // each from the window the one before reached
-    for (std::wstring w : {L"41", L"42", L"0", L"0", L"0"})
-        rounds.insert(rounds.end(), {L"events", L"restore " + w, L"foreground " + w, L"events"});
-    EXPECT_EQ(sys.journal, rounds) << "and no message";
-    EXPECT_EQ(app.settings.MainTop, 0) << "settings are not even read";
+    // A skin is usable when it exists and ends in ".bmp", in any case; the e2e tests cover the fall-backs.
+    sys.addFile(L"D:\\Skin_Blue.BMP");
+    sys.addFile(L"D:\\Skin_Blue.png");
+    for (const auto& [skin, used] : {std::pair{L"D:\\Skin_Blue.BMP", L"D:\\Skin_Blue.BMP"}, {L"D:\\Skin_Blue.png", L"P\\Skin_Alba.bmp"}})
+        EXPECT_EQ(StartupSkin(sys, skin, L"P"), used) << skin;
 }
 
 // The helpers the above are built on.
 
 TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
-    const std::tuple<int, int, std::wstring> names[] = {
-        {10, 0, L""}, {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"}, {6, 0, L"Vista"}, {5, 0, L"Win XP"},
-        {4, 10, L"Win 2000"}, {3, 51, L""},
-    };
+    const std::tuple<int, int, std::wstring> names[] = {{10, 0, L""},       {6, 1, L"Win 7 + later"}, {7, 1, L"Win 7 + later"},
+                                                        {6, 0, L"Vista"},   {5, 0, L"Win XP"},        {4, 10, L"Win 2000"},
+                                                        {3, 51, L""}};
     for (const auto& [major, minor, name] : names)
         EXPECT_EQ(OsVersionName(major, minor), name) << major << '.' << minor;
     FindSystemFolders(app);
     EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"\\|\\") << "no registry value and no C:";
     sys.folders.insert(L"C:\\");
     FindSystemFolders(app);
-    EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");  // a registry value and the documents folder: the first start
+    EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");
+    sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"C:\\Program Files";
+    sys.specialFolders[5] = std::wstring(L"C:\\users\\ann\\Documents\0\0\0", 26);  // cut at the first NUL
+    FindSystemFolders(app);
+    EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"C:\\Program Files\\|C:\\users\\ann\\Documents\\");
     // Deleting skips empty and missing names; a file error names the operation and the reason.
     sys.addFile(L"C:\\x.txt");
-    DeleteFileIfPresent(app, L"");
-    DeleteFileIfPresent(app, L"C:\\y.txt");
-    DeleteFileIfPresent(app, L"C:\\x.txt");
+    for (const wchar_t* file : {L"", L"C:\\y.txt", L"C:\\x.txt"}) DeleteFileIfPresent(app, file);
     ReportFileError(app, L"C:\\a.lst", L"");
     ReportFileError(app, L"   ");
     EXPECT_EQ(sys.journal, (Lines{L"delete C:\\x.txt", L"beep",
@@ -400,100 +361,75 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
         << "a version without a label keeps the old name";
 }
 
-// Each step adds a file and shows which path now wins: the later the step, the earlier the place in the search order.
-struct Step { const wchar_t *added, *path, *expected; };  // added: nothing for the first step
+// Each step adds a file (or none) and shows which path now wins: the later the step, the earlier its place in the order.
+struct Step { const wchar_t *added, *path, *expected; };
 
 TEST_F(Core, PathPiecesTheDocumentPathSearchOrderRelocationAndTheSuitePathSearchOrder) {
     const std::pair<std::wstring, std::wstring> backslashed[] = {
         {L"C:\\Data ", L"C:\\Data\\"}, {L"C:\\Data/", L"C:\\Data/"},  {L"C:\\Data\\", L"C:\\Data\\"},
-        {L" C:\\Data", L" C:\\Data\\"}, {L"C:\\Data\\  ", L"C:\\Data\\  "}, {L"", L"\\"},
-    };
-    const auto ensured = [](std::wstring path) { EnsureTrailingBackslash(path); return path; };
-    for (const auto& [path, expected] : backslashed) EXPECT_EQ(ensured(path), expected);
+        {L" C:\\Data", L" C:\\Data\\"}, {L"C:\\Data\\  ", L"C:\\Data\\  "}, {L"", L"\\"}};
+    for (auto [path, expected] : backslashed) { EnsureTrailingBackslash(path); EXPECT_EQ(path, expected); }
     // The old runtime's cuts at their edges; the search orders below rely on the rest.
     EXPECT_EQ(ParentFolder(L"a.exe") + L"|" + BackslashFileName(L"x.exe") + L"|" + MidFrom(L"abc", 4) + L"|" +
                   LeftOf(L"", 1), L"|\\x.exe||");
-    const Step steps[] = {
-        {nullptr, L"", L""}, {nullptr, L"   ", L""}, {nullptr, L"G:\\a\\b.vrt", L"G:\\a\\b.vrt"},
-        {L"E:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"E:\\Drive_G\\a\\b.vrt"},
-        {L"D:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"D:\\Drive_G\\a\\b.vrt"},
-        {L"A:\\Drive_G\\x.vrt", L"G:\\x.vrt", L"G:\\x.vrt"},  // the scan starts at C
-        // A path in a drive folder goes back to its drive, or stays when that has nothing.
-        {nullptr, L"C:\\Drive_G\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt"},
-        {L"G:\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt", L"G:\\T\\Notes.vrt"},
-        {L"C:\\Drive_G\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt", L"C:\\Drive_G\\T\\Notes.vrt"},
+    const auto walk = [&](std::initializer_list<Step> steps, auto resolve) {
+        for (const Step& step : steps) {
+            if (step.added) sys.addFile(step.added);
+            EXPECT_EQ(resolve(step.path), step.expected) << (step.added ? step.added : L"-") << " for " << step.path;
+        }
     };
-    for (const Step& step : steps) {
-        if (step.added) sys.addFile(step.added);
-        EXPECT_EQ(ResolveDocumentPath(app, step.path), step.expected) << (step.added ? step.added : L"-");
-    }
+    const wchar_t *notes = L"C:\\Drive_G\\T\\Notes.vrt", *stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
+    // A document: drive folders are scanned from C on, so D's wins over E's; a path in a drive folder goes back to
+    // its drive, or stays when that has nothing.
+    walk({{nullptr, L"", L""}, {nullptr, L"   ", L""}, {nullptr, L"G:\\a\\b.vrt", L"G:\\a\\b.vrt"},
+          {L"E:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"E:\\Drive_G\\a\\b.vrt"},
+          {L"D:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"D:\\Drive_G\\a\\b.vrt"},
+          {L"A:\\Drive_G\\x.vrt", L"G:\\x.vrt", L"G:\\x.vrt"}, {nullptr, notes, notes},
+          {L"G:\\T\\Notes.vrt", notes, L"G:\\T\\Notes.vrt"}, {notes, notes, notes}},
+         [&](const wchar_t* path) { return ResolveDocumentPath(app, path); });
     EXPECT_EQ(TryDriveLetters(app, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
     // Relocating maps between drive folders and drives.
-    EXPECT_EQ(RelocateDrivePath(app, L""), L"");
-    EXPECT_EQ(RelocateDrivePath(app, L"G:\\TellmarkSet\\X\\X.exe"), L"C:\\Drive_G\\TellmarkSet\\X\\X.exe");
-    sys.addFile(L"D:\\Drive_G\\TellmarkSet\\X\\X.exe");
-    EXPECT_EQ(RelocateDrivePath(app, L"C:\\Drive_G\\TellmarkSet\\X\\X.exe"), L"G:\\TellmarkSet\\X\\X.exe");
-    sys.addFile(L"G:\\TellmarkSet\\Y.exe");
-    EXPECT_EQ(RelocateDrivePath(app, L"G:\\TellmarkSet\\Y.exe"), L"G:\\TellmarkSet\\Y.exe");
+    walk({{nullptr, L"", L""}, {nullptr, L"G:\\TellmarkSet\\X\\X.exe", stored},
+          {L"D:\\Drive_G\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"},
+          {L"G:\\TellmarkSet\\Y.exe", L"G:\\TellmarkSet\\Y.exe", L"G:\\TellmarkSet\\Y.exe"}},
+         [&](const wchar_t* path) { return RelocateDrivePath(app, path); });
     // Swapping Program Files folders (both ways, exact case: the custom list test) cuts as if the folder stood first.
     std::wstring cut = L"D:\\C:\\Program Files\\x";
     EXPECT_EQ(SwapProgramFilesFolder(cut), L"C:\\Program Files (x86)\\es\\x");
-    // A suite program's search order, after the relocations above (so not on drive D).
-    const wchar_t* stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
-    const Step suiteSteps[] = {
-        {nullptr, stored, L"C:\\Orvane\\X.exe"},  // found nowhere: beside this program
-        {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
-        {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"}, {stored, stored, stored},
-        {L"C:\\Orvane\\X.exe", L"E:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"}, {nullptr, L"", L""},
-    };
-    for (const Step& step : suiteSteps) {
-        if (step.added) sys.addFile(step.added);
-        std::wstring path = step.path;
-        EXPECT_EQ(&ResolveSuitePath(app, path), &path);
-        EXPECT_EQ(path, step.expected) << (step.added ? step.added : L"-");
-    }
+    // A suite program, after the relocations above (so not on drive D); found nowhere, it is beside this program.
+    walk({{nullptr, stored, L"C:\\Orvane\\X.exe"}, {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
+          {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"}, {stored, stored, stored},
+          {L"C:\\Orvane\\X.exe", L"E:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"}, {nullptr, L"", L""}},
+         [&](const wchar_t* given) { std::wstring path = given; return &ResolveSuitePath(app, path) == &path ? path : L"?"; });
 }
 
-// The Office locator and the settings dialogs.
+// The Office locator and the settings dialogs; the e2e Commands tests cover the file dialogs.
 TEST_F(Core, OfficeProgramsTheUserLocationWinsThenTheStandardFoldersAndTheSettingsDialogs) {
     app.ProgramFilesFolder = L"C:\\PF\\";
     const std::wstring office = L"C:\\PF\\\\Microsoft Office\\";
     EXPECT_EQ(LocateOfficeProgram(app, L"WINWORD.EXE"), office + L"Office\\WINWORD.EXE") << "untested last resort";
-    app.settings.WordPath = L"D:\\Word\\WINWORD.EXE";  // missing until the last step
+    Settings& s = app.settings;
+    s.WordPath = L"D:\\Word\\WINWORD.EXE";  // missing until the last step
     for (const std::wstring& found : {office + L"OFFICE11\\WINWORD.EXE", office + L"OFFICE12\\WINWORD.EXE",
-                                     office + L"OFFICE16\\WINWORD.EXE", app.settings.WordPath}) {
+                                     office + L"OFFICE16\\WINWORD.EXE", s.WordPath}) {
         sys.addFile(found);
         EXPECT_EQ(LocateOfficeProgram(app, L"WINWORD.EXE"), found);
     }
     EXPECT_EQ(LocateOfficeProgram(app, L"winword.exe"), office + L"Office\\winword.exe") << "exact case only";
     EXPECT_EQ(LocateOfficeProgram(app, L"EXCEL.EXE"), office + L"Office\\EXCEL.EXE") << "Word's location is Word's";
-
-    Settings& s = app.settings;
+    // "Same for all" needs Word's file, then puts the other programs beside it.
     s.ExcelPath = L"old";
     s.WordPath = L"D:\\Office\\WINWORD.EXE";
-    EXPECT_FALSE(SameForAll(app)) << "Word's file is missing";
-    EXPECT_EQ(s.ExcelPath, L"old");
+    EXPECT_FALSE(SameForAll(app));
+    EXPECT_EQ(sys.messages.at(0).text + L"|" + s.ExcelPath, L"Location for MS Word invalid or empty.|old");
     sys.addFile(s.WordPath);
     EXPECT_TRUE(SameForAll(app));
     EXPECT_EQ(s.ExcelPath + L"|" + s.PowerPointPath + L"|" + s.PublisherPath + L"|" + s.AccessPath,
               L"D:\\Office\\EXCEL.EXE|D:\\Office\\POWERPNT.EXE|D:\\Office\\MSPUB.EXE|D:\\Office\\MSACCESS.EXE");
-
-    s.YourProgram = L"C:\\Tools\\mine.exe";
-    EXPECT_FALSE(StartYourProgram(app));
-    sys.addFile(s.YourProgram);
+    // Your program starts once it exists (its missing message: e2e).
+    sys.addFile(s.YourProgram = L"C:\\Tools\\mine.exe");
     EXPECT_TRUE(StartYourProgram(app));
-    EXPECT_EQ(sys.messages.at(0).text, L"Location for MS Word invalid or empty.");
-    EXPECT_EQ(sys.messages.at(1).text, L"Cannot find this program:\r\n\r\nC:\\Tools\\mine.exe");
-    EXPECT_EQ(sys.messages.at(1).icon, MessageIcon::Exclamation);
     EXPECT_EQ(sys.started.at(0).commandLine, L"C:\\Tools\\mine.exe");
-
-    s.DeadlinesFile = L"C:\\old.vrt";
-    sys.fileAnswers = {std::nullopt, L"", L"C:\\new.vrt"};
-    EXPECT_FALSE(ChooseIntoSetting(app, Choice::Deadlines) || ChooseIntoSetting(app, Choice::Deadlines));
-    EXPECT_TRUE(ChooseIntoSetting(app, Choice::Deadlines));
-    EXPECT_EQ(s.DeadlinesFile, L"C:\\new.vrt");
-    const FileRequest& asked = sys.fileRequests[0];
-    EXPECT_EQ(asked.title + L"|" + asked.filter + L"|" + asked.preset, L"Specify Deadlines file|All files (*.*)|*.*|C:\\old.vrt");
 }
 
 }  // namespace

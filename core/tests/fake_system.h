@@ -105,8 +105,7 @@ public:
         return nextTask;
     }
     long long shellVerb(WindowRef owner, S verb, S file, S directory, int showCode) override {
-        log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show",
-            showCode);
+        log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show", showCode);
         return 42;
     }
     std::vector<TopLevelWindow> topLevelWindows() override { return windows; }

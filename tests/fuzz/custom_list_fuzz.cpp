@@ -6,20 +6,15 @@
 
 using namespace orvane;
 
-namespace {
+static const std::wstring kList = L"C:\\Lists\\My.lst";
 
-const std::wstring kList = L"C:\\Lists\\My.lst";
-
-CustomProgramTable Load(testing::FakeSystem& sys) {
+static CustomProgramTable Load(testing::FakeSystem& sys) {
     App app(sys);
     app.settings.CustomListFile = kList;
     CustomProgramTable table;
-    FUZZ_CHECK(LoadCustomList(app, table));
-    FUZZ_CHECK(sys.messages.empty());
+    FUZZ_CHECK(LoadCustomList(app, table) && sys.messages.empty());
     return table;
 }
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     testing::FakeSystem sys;
@@ -32,7 +27,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const std::wstring& line : *column) saved.addFile(line);
     saved.addFile(kList, saved.toAnsi(text));
     CustomProgramTable back = Load(saved);
-    FUZZ_CHECK(back == table);
-    FUZZ_CHECK(FormatCustomList(back) == text);
+    FUZZ_CHECK(back == table && FormatCustomList(back) == text);
     return 0;
 }

@@ -12,20 +12,12 @@
 
 namespace orvane::fuzz {
 
-inline std::string Bytes(const std::uint8_t* data, std::size_t size) {
-    return std::string(reinterpret_cast<const char*>(data), size);
-}
+inline std::string Bytes(const std::uint8_t* data, std::size_t size) { return {reinterpret_cast<const char*>(data), size}; }
 
 // Files are 8-bit text in the ANSI code page; the fake converts as Windows-1252 does.
-inline std::wstring AnsiText(const std::uint8_t* data, std::size_t size) {
-    return testing::DecodeWindows1252(Bytes(data, size));
-}
-
-inline void Fail(const char* what, const char* file, int line) {
-    std::fprintf(stderr, "%s:%d: property broken: %s\n", file, line, what);
-    std::abort();
-}
+inline std::wstring AnsiText(const std::uint8_t* data, std::size_t size) { return testing::DecodeWindows1252(Bytes(data, size)); }
 
 }  // namespace orvane::fuzz
 
-#define FUZZ_CHECK(condition) ((condition) ? void() : orvane::fuzz::Fail(#condition, __FILE__, __LINE__))
+#define FUZZ_CHECK(condition) \
+    ((condition) ? void() : (std::fprintf(stderr, "%s:%d: property broken: %s\n", __FILE__, __LINE__, #condition), std::abort()))

@@ -1,5 +1,7 @@
 // The settings file as read from disk: whatever it holds, writing it gives 39
 // CR LF lines, and those lines read back write the same again.
+#include <algorithm>
+
 #include "fuzz.h"
 #include "settings.h"
 
@@ -9,17 +11,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Settings read;
     ApplySettingsLines(read, fuzz::AnsiText(data, size));
     const std::wstring text = FormatSettings(read);
-    std::size_t lines = 0;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] == L'\n') FUZZ_CHECK(at > 0 && text[at - 1] == L'\r');
-        if (text[at] != L'\r') continue;
-        FUZZ_CHECK(at + 1 < text.size() && text[at + 1] == L'\n');
-        ++lines;
-    }
-    FUZZ_CHECK(lines == kSettingsLineCount && text.ends_with(L"\r\n"));
+    // Every CR and every LF belongs to one of the CR LF pairs, which do not overlap.
+    std::ptrdiff_t lines = 0;
+    for (auto at = text.find(L"\r\n"); at != std::wstring::npos; at = text.find(L"\r\n", at + 2)) ++lines;
+    FUZZ_CHECK(lines == std::ptrdiff_t(kSettingsLineCount) && std::ranges::count(text, L'\r') == lines &&
+               std::ranges::count(text, L'\n') == lines && text.ends_with(L"\r\n"));
     Settings again;
     ApplySettingsLines(again, text);
-    FUZZ_CHECK(again == read);
-    FUZZ_CHECK(FormatSettings(again) == text);
+    FUZZ_CHECK(again == read && FormatSettings(again) == text);
     return 0;
 }

@@ -34,13 +34,7 @@ std::vector<WebRow> Rows(const std::vector<const wchar_t*>& names) {
 }
 
 TEST(WebListFile, ReadsAndWritesTheDesignedCases) {
-    struct Case {
-        const char* what;
-        std::wstring file;
-        std::wstring rows;    // as Show writes them
-        std::size_t groups;   // entries read
-        std::wstring saved;   // written back
-    };
+    struct Case { const char* what; std::wstring file, rows /* as Show writes them */; std::size_t groups; std::wstring saved; };
     const std::wstring sep = kSep + L"\r\n\r\n";
     const Case cases[] = {
         {"checks: only \"1\" after trimming", L"a\r\nA\r\n 1 \r\nb\r\nB\r\n01\r\nc\r\nC\r\ntrue\r\nd\r\nD\r\n-1\r\n***\r\n",
@@ -75,9 +69,7 @@ TEST(WebListFile, ReadsAndWritesTheDesignedCases) {
 class WebListTest : public ::testing::Test {
 protected:
     WebListTest() {
-        s.WebListFile = kPath;
-        s.WebBrowser1 = L"C:\\B1.exe";
-        s.WebBrowser2 = L"C:\\Program Files\\Web\\b.exe";
+        s.WebListFile = kPath; s.WebBrowser1 = L"C:\\B1.exe"; s.WebBrowser2 = L"C:\\Program Files\\Web\\b.exe";
         s.WebBrowserChoice = 2;
     }
     static constexpr wchar_t kPath[] = L"C:\\Lists\\Web.lst";
@@ -89,16 +81,9 @@ protected:
 
 TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuildsOneCommandLine) {
     using Op = std::function<bool(WebList&)>;
-    struct Case {
-        const char* what;
-        std::vector<const wchar_t*> rows;
-        int current;
-        Op operation;
-        bool changes;
-        std::wstring after;  // the rows, then the groups after a "/"
-        std::vector<std::wstring> messages;
-        std::vector<A> answers = {};
-        std::vector<std::wstring> started = {};  // command lines
+    struct Case {  // after: the rows, then the groups after a "/"; started: command lines
+        const char* what; std::vector<const wchar_t*> rows; int current; Op operation; bool changes; std::wstring after;
+        std::vector<std::wstring> messages; std::vector<A> answers = {}; std::vector<std::wstring> started = {};
     };
     const auto open = [](bool singleRow) {
         return [singleRow](WebList& l) { l.singleRow = singleRow, l.openWebsites(); return l.singleRow; };
