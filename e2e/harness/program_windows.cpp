@@ -26,7 +26,11 @@ HWND FromCustomPopup(const OrvaneProcess& orvane, HWND bar, WORD letter, const w
     if (!custom) return nullptr;
     PressKeys(custom, {VK_SHIFT, VK_F10});
     if (!WaitFor([&] { return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr; }, 5s)) return nullptr;
-    PressKeys(custom, {letter});
+    // The letter again while the menu stays open: one typed as it appears can miss it.
+    for (int press = 0; press < 3 && FindProcessWindow(orvane.id(), kPopupMenuClass); ++press) {
+        PressKeys(custom, {letter});
+        if (HWND dialog = WaitForDialogTitled(orvane.id(), title, 2s)) return dialog;
+    }
     return WaitForDialogTitled(orvane.id(), title);
 }
 
