@@ -47,7 +47,7 @@ bool EscapeToBar(const OrvaneProcess&, HWND window) {
         // pending messages without the dialog manager, so an Esc then is not seen.
         for (int press = 0; press < 2 && IsWindow(window); ++press) {
             PressKeys(window, {VK_ESCAPE});
-            WaitFor([&] { return !IsWindow(window); }, press ? 5s : 1s);
+            WaitFor([&] { return !IsWindow(window); }, press ? 5s : 400ms);
         }
         if (IsWindow(window)) return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
         window = std::wstring(type) == kMainWindowClass ? nullptr : owner;
