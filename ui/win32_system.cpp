@@ -398,6 +398,13 @@ void Win32System::processPendingEvents() {
             PostQuitMessage(static_cast<int>(message.wParam));  // leave it for the main loop
             return;
         }
+        // A key typed meanwhile goes where the modal loop would send it: to
+        // the dialog's shortcuts and its own keys (Esc, Enter, Tab), not lost.
+        HWND dialog = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+        wchar_t type[8] = {};
+        if (dialog && GetClassNameW(dialog, type, 8) && std::wstring_view(type) == L"#32770" &&
+            (CallMsgFilterW(&message, MSGF_DIALOGBOX) || IsDialogMessageW(dialog, &message)))
+            continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

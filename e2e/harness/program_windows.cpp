@@ -42,14 +42,8 @@ bool EscapeToBar(const OrvaneProcess&, HWND window) {
         HWND owner = GetWindow(window, GW_OWNER);
         wchar_t type[64] = {};
         GetClassNameW(owner, type, 64);
-        // Pressed again, as a user would, when the window lost it: the custom programs
-        // window reads its list again after the editor closes, dispatching its
-        // pending messages without the dialog manager, so an Esc then is not seen.
-        for (int press = 0; press < 2 && IsWindow(window); ++press) {
-            PressKeys(window, {VK_ESCAPE});
-            WaitFor([&] { return !IsWindow(window); }, press ? 5s : 400ms);
-        }
-        if (IsWindow(window)) return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
+        PressKeys(window, {VK_ESCAPE});
+        if (!Gone(window)) return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
         window = std::wstring(type) == kMainWindowClass ? nullptr : owner;
     }
     return true;
