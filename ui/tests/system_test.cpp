@@ -10,6 +10,7 @@
 #include "app.h"
 #include "handles.h"
 #include "helpers.h"
+#include "resource.h"
 #include "win32_system.h"
 #include "win_support.h"
 #include "winlist.h"
@@ -105,6 +106,15 @@ TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
     MSG message;
     ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(message.wParam, 3u);
+    // A key typed meanwhile reaches the dialog's own keys: Esc cancels it.
+    static bool cancelled = false;
+    HWND dialog = CreateDialogParamW(nullptr, MAKEINTRESOURCEW(IDD_YOUR_PROGRAM), nullptr, [](HWND, UINT m, WPARAM w, LPARAM) -> INT_PTR {
+        cancelled |= m == WM_COMMAND && LOWORD(w) == IDCANCEL;
+        return FALSE; }, 0);
+    PostMessageW(GetDlgItem(dialog, IDC_PROGRAM), WM_KEYDOWN, VK_ESCAPE, 1);
+    sys.processPendingEvents();
+    EXPECT_TRUE(cancelled);
+    DestroyWindow(dialog);
 }
 
 TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
