@@ -11,14 +11,12 @@
 #include <string>
 #include <vector>
 
-#include "app.h"
+#include "bench_bar.h"
 #include "bench_support.h"
-#include "main_window.h"
 #include "menu.h"
 #include "menu_bar.h"
 #include "program_list.h"
 #include "resource.h"
-#include "win32_system.h"
 #include "win_support.h"
 #include "table_row.h"
 
@@ -54,13 +52,11 @@ int wmain(int argc, wchar_t** argv) {
     std::string emptyList;
     for (int line = 0; line < 192; ++line) emptyList += "\r\n";
     ts::WriteBytes(empty, emptyList);
-    ts::WriteBytes(folder + L"\\Orvane.ini", StripSettings());
 
-    orvane::ui::Win32System system;
-    orvane::App app(system);
-    app.ProgramFolder = folder;
-    orvane::ui::MainWindow bar(app);
-    if (!bar.open()) return 1;
+    BenchBar bench(folder);
+    if (!bench.opened) return 1;
+    orvane::App& app = bench.app;
+    orvane::ui::MainWindow& bar = bench.bar;
     const UINT command = MenuCommandOf(orvane::MainMenuRows(), L"C&ustom programs", orvane::ui::kFirstMenuCommand);
 
     FirstIdle firstIdle(bar.hwnd());

@@ -11,10 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "app.h"
+#include "bench_bar.h"
 #include "bench_support.h"
-#include "main_window.h"
-#include "win32_system.h"
 #include "win_support.h"
 #include "table_row.h"
 
@@ -50,13 +48,10 @@ int wmain(int argc, wchar_t** argv) {
         std::printf("error: ORVANE_SKINS names no folder with Skin_Alba.bmp and Skin_Slate.bmp\n");
         return 1;
     }
-    ts::WriteBytes(folder + L"\\Orvane.ini", StripSettings());
 
-    orvane::ui::Win32System system;
-    orvane::App app(system);
-    app.ProgramFolder = folder;
-    orvane::ui::MainWindow bar(app);
-    if (!bar.open()) return 1;
+    BenchBar bench(folder);
+    if (!bench.opened) return 1;
+    orvane::ui::MainWindow& bar = bench.bar;
     orvane::MainWindowHost& host = bar;
     Settle();
 
