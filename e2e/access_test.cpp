@@ -1,7 +1,5 @@
-// Every window used by keyboard alone and named for a screen reader: access
-// keys that do not clash, a Tab order that reaches every control in reading
-// order with the focus on something visible, names for buttons, the icon
-// strip and list columns.
+// Every window used by keyboard alone and named for a screen reader: access keys that do not clash, a Tab
+// order reaching every control in reading order with the focus on something visible, names for controls.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -17,10 +15,8 @@ namespace {
 
 using namespace testsupport;
 
-// Clashes that the design's own captions make, kept as they stand: Windows
-// moves between both items on the letter, and Enter runs the one reached.
-const std::map<std::wstring, std::vector<std::wstring>> kDesignedClashes = {
-    {L"bar", {L"W: Use screen &width Sho&w clock"}}};
+// Clashes the design's own captions make, kept: Windows moves between both items on the letter.
+const std::map<std::wstring, std::vector<std::wstring>> kDesignedClashes = {{L"bar", {L"W: Use screen &width Sho&w clock"}}};
 
 void ExpectUsableByKeyboard(const std::wstring& name, HWND window) {
     SCOPED_TRACE(Utf8(name));
@@ -30,10 +26,9 @@ void ExpectUsableByKeyboard(const std::wstring& name, HWND window) {
     if (name == L"clock") return;  // any key closes it: it has no controls to move between
     const std::vector<FocusStop> cycle = TabCycle(window);
     int wraps = 0;
-    for (std::size_t i = 0; i < cycle.size(); ++i) {
+    for (std::size_t i = 0; i < cycle.size(); ++i) {  // reading order: a stop lies above the one before only on wrapping
         EXPECT_TRUE(cycle[i].seen) << i << " " << Utf8(TextOf(cycle[i].control));
-        // Reading order: a stop lies wholly above the one before only where the cycle wraps.
-        if (i > 0 && cycle[i].place.bottom <= cycle[i - 1].place.top) ++wraps;
+        wraps += i > 0 && cycle[i].place.bottom <= cycle[i - 1].place.top;
     }
     EXPECT_LE(wraps, 1);
 }
@@ -46,8 +41,7 @@ TEST(Access, EveryWindowWorksFromTheKeyboardAndNamesItsControls) {
     OrvaneProcess orvane(folder);
     HWND bar = orvane.waitForMainWindow();
     ASSERT_NE(bar, nullptr);
-    // The strip is one window: its name is the icon the arrow keys reached.
-    HWND strip = FindWindowExW(bar, nullptr, L"Orvane.IconStrip", nullptr);
+    HWND strip = FindWindowExW(bar, nullptr, L"Orvane.IconStrip", nullptr);  // named for the icon the arrow keys reached
     EXPECT_EQ(TextOf(strip), IconName(0));
     PressKeys(bar, {VK_RIGHT});
     EXPECT_TRUE(WaitFor([&] { return TextOf(strip) == IconName(1); }, 5s)) << Utf8(TextOf(strip));

@@ -1,6 +1,5 @@
 // The menu bar and its commands, used as a user would: menus, shortcuts and
-// dialogs of a running orvane.exe, with probe.exe standing in for the programs
-// it starts.
+// dialogs of a running orvane.exe, with probe.exe standing in for the programs it starts.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -33,21 +32,15 @@ protected:
         return SplitCrLf(ReadBytes(folder.settingsFile()));
     }
     std::string path(const std::wstring& name) { return Utf8(folder.path() + L"\\" + name); }
-    static RECT Rect(HWND window) {
-        RECT r{};
-        GetWindowRect(window, &r);
-        return r;
-    }
+    static RECT Rect(HWND window) { RECT r{}; GetWindowRect(window, &r); return r; }
 
     ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
     std::unique_ptr<OrvaneProcess> orvane;
 };
 
-TEST_F(Commands, TheMenuShowsTheTableAndItsDialogsWorkFromTheKeyboard) {
+TEST_F(Commands, TheMenuShowsTheTableAndAProgramNotFoundIsReportedAndKept) {
     HWND bar = start({});
     ASSERT_NE(bar, nullptr);
-    // The desktop toggle may do nothing here, but the bar goes on answering.
-    ASSERT_TRUE(PickMenuItem(bar, L"&Goto desktop") && PickMenuItem(bar, L"Des&ktop"));
     std::vector<std::wstring> expected, shown;
     for (const MenuRow& row : MainMenuRows()) {  // every item draws itself, in the skin's colours
         const std::wstring shortcut = ShortcutText(row.shortcut);
@@ -68,44 +61,28 @@ TEST_F(Commands, TheMenuShowsTheTableAndItsDialogsWorkFromTheKeyboard) {
     EXPECT_TRUE(IsWindowVisible(dialog)) << "stays open";
     PressKeys(dialog, {VK_ESCAPE});
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 5s));
-
-    ASSERT_TRUE(PickMenuItem(bar, L"&About this program"));
-    HWND about = WaitForDialogTitled(orvane->id(), L"About Orvane");
-    ASSERT_NE(about, nullptr);
-    EXPECT_EQ(ControlText(about, IDC_ABOUT_VERSION), L"Version 1.0.0");
-    PressKeys(about, {VK_ESCAPE});
-    EXPECT_TRUE(WaitFor([&] { return !IsWindow(about); }, 5s));
     EXPECT_EQ(closeAndReadSettings().at(28), path(L"missing.exe"));
 }
 
-TEST_F(Commands, ASuiteToolBesideTheProgramStartsInItsFolderUnderEitherFileBoxCaption) {
-    HWND bar = start({}, {L"TS_Files.exe", L"TS_FileBox.exe"});
+TEST_F(Commands, ASuiteToolBesideTheProgramStartsInItsFolderFromItsAccessLetter) {
+    HWND bar = start({}, {L"TS_Files.exe"});
     ASSERT_NE(bar, nullptr);
-    const std::wstring log = folder.path() + L"\\probe.log";
     PressKeys(bar, {VK_MENU, 'F'});  // the File menu, then its item's access letter
     Sleep(300);
     PressKeys(bar, {'F'});
-    ReadProbeLog(log, 1);
-    ASSERT_TRUE(PickMenuItem(bar, L"File &box"));
-    ReadProbeLog(log, 2);
-    ASSERT_TRUE(PickMenuItem(bar, L"File bo&x"));
-    const auto started = ReadProbeLog(log, 3);
-    ASSERT_EQ(started.size(), 3u);
-    EXPECT_EQ(started[0].commandLine, "\"" + path(L"TS_Files.exe") + "\"");
-    EXPECT_EQ(started[0].folder, Utf8(folder.path()));
-    EXPECT_EQ(started[1].commandLine, "\"" + path(L"TS_FileBox.exe") + "\"");
-    EXPECT_EQ(started[2].commandLine, started[1].commandLine);
+    const auto started = ReadProbeLog(folder.path() + L"\\probe.log", 1);
+    ASSERT_EQ(started.size(), 1u);
+    EXPECT_EQ(std::pair(started[0].commandLine, started[0].folder),
+              std::pair("\"" + path(L"TS_Files.exe") + "\"", Utf8(folder.path())));
 }
 
-TEST_F(Commands, OfficeProgramsAndWebmail) {
+TEST_F(Commands, WordStartsExcelIsReportedMissingAndWebmailOpensTheAddressGivenAndKeepsIt) {
     HWND bar = start({{4, "https://old.example.org"}, {18, path(L"My Office\\WINWORD.EXE")}, {21, path(L"browser.exe")}},
                      {L"My Office\\WINWORD.EXE", L"browser.exe"});
     ASSERT_NE(bar, nullptr);
     ASSERT_TRUE(PickMenuItem(bar, L"&Word"));  // its path has a blank and is not quoted
-    const auto word = ReadProbeLog(folder.path() + L"\\My Office\\probe.log", 1);
-    ASSERT_EQ(word.size(), 1u);
-    EXPECT_EQ(word[0].commandLine, path(L"My Office\\WINWORD.EXE"));
-
+    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\My Office\\probe.log", 1).at(0).commandLine,
+              path(L"My Office\\WINWORD.EXE"));
     ASSERT_TRUE(PickMenuItem(bar, L"E&xcel"));
     ASSERT_TRUE(AnswerMessage(
         orvane->id(), L"Cannot locate the following program/file:\r\n\r\nC:\\Program Files\\\\Microsoft Office\\Office\\EXCEL.EXE\r\n\r\n"));
@@ -113,35 +90,25 @@ TEST_F(Commands, OfficeProgramsAndWebmail) {
     ASSERT_TRUE(PickMenuItem(bar, L"Web interface U&RL"));
     HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
     ASSERT_NE(box, nullptr);
-    EXPECT_EQ(ControlText(box, IDC_PROMPT), L"Enter URL for webmail interface");
-    EXPECT_EQ(ControlText(box, IDC_BOX_TEXT), L"https://old.example.org");
+    EXPECT_EQ(std::pair(ControlText(box, IDC_PROMPT), ControlText(box, IDC_BOX_TEXT)),
+              std::pair(std::wstring(L"Enter URL for webmail interface"), std::wstring(L"https://old.example.org")));
     SetControlText(box, IDC_BOX_TEXT, L"https://mail.example.org/inbox");
     PressButton(box, IDOK);
-    const auto browser = ReadProbeLog(folder.path() + L"\\probe.log", 1);
-    ASSERT_EQ(browser.size(), 1u);
-    EXPECT_EQ(browser[0].commandLine, "\"" + path(L"browser.exe") + "\" https://mail.example.org/inbox");
-    // The bar closed while the box is open: nothing starts, the address stays.
-    ASSERT_TRUE(PickMenuItem(bar, L"Web interface U&RL"));
-    SetControlText(WaitForDialogTitled(orvane->id(), L"Orvane"), IDC_BOX_TEXT, L"https://unsent.example.org");
+    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\probe.log", 1).at(0).commandLine,
+              "\"" + path(L"browser.exe") + "\" https://mail.example.org/inbox");
     EXPECT_EQ(closeAndReadSettings().at(3), "https://mail.example.org/inbox");
-    EXPECT_FALSE(WaitFor([&] { return ReadProbeLog(folder.path() + L"\\probe.log").size() > 1; }, 2s));
 }
 
-TEST_F(Commands, DocumentsWithBlanksOrPastMaxPathGoToTheirToolUnquoted) {
-    // A document with blanks and one deeper than MAX_PATH characters.
+TEST_F(Commands, ADocumentPastMaxPathGoesToItsTool) {
     const std::wstring deep = folder.path() + L"\\" + std::wstring(120, L'd') + L"\\" + std::wstring(120, L'e');
-    HWND bar = start({{3, Utf8(deep) + "\\deadlines.txt"}, {5, path(L"My Office\\a b.txt")}},
-                     {L"TS_ScratchPad.exe", L"TS_Grid.exe"});
+    HWND bar = start({{3, Utf8(deep) + "\\deadlines.txt"}}, {L"TS_ScratchPad.exe"});
     ASSERT_NE(bar, nullptr);
     CreateDirectoryW((L"\\\\?\\" + deep.substr(0, deep.rfind(L'\\'))).c_str(), nullptr);
     CreateDirectoryW((L"\\\\?\\" + deep).c_str(), nullptr);
-    ASSERT_TRUE(WriteBytes(L"\\\\?\\" + deep + L"\\deadlines.txt", "x") && WriteBytes(folder.path() + L"\\My Office\\a b.txt", "x"));
-    ASSERT_TRUE(PickMenuItem(bar, L"Load Addr&esses file"));
-    ReadProbeLog(folder.path() + L"\\probe.log", 1);  // one at a time keeps the log in order
+    ASSERT_TRUE(WriteBytes(L"\\\\?\\" + deep + L"\\deadlines.txt", "x"));
     ASSERT_TRUE(PickMenuItem(bar, L"Load &Deadlines file"));
-    const auto started = ReadProbeLog(folder.path() + L"\\probe.log", 2);
-    EXPECT_EQ(started.at(0).commandLine, "\"" + path(L"TS_Grid.exe") + "\" " + path(L"My Office\\a b.txt"));
-    EXPECT_EQ(started.at(1).commandLine, "\"" + path(L"TS_ScratchPad.exe") + "\" " + Utf8(deep) + "\\deadlines.txt");
+    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\probe.log", 1).at(0).commandLine,
+              "\"" + path(L"TS_ScratchPad.exe") + "\" " + Utf8(deep) + "\\deadlines.txt");
 }
 
 TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
@@ -152,19 +119,16 @@ TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
     ASSERT_TRUE(AnswerFileDialog(dialog, folder.path() + L"\\browser.exe"));
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 10s));
     ASSERT_TRUE(PickMenuItem(bar, L"&Get Deadlines file"));
-    dialog = WaitForDialogTitled(orvane->id(), L"Specify Deadlines file");
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = WaitForDialogTitled(orvane->id(), L"Specify Deadlines file"), nullptr);
     PressButton(dialog, IDCANCEL);
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 10s));
-
     PressKeys(bar, {VK_MENU, 'Q'});
     ASSERT_EQ(orvane->waitForExit(), 0u) << "Alt+Q";
     const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
-    EXPECT_EQ(settings.at(2), "C:\\Old\\Deadlines.vrt");
-    EXPECT_EQ(settings.at(20), path(L"browser.exe"));
+    EXPECT_EQ(std::pair(settings.at(2), settings.at(20)), std::pair(std::string("C:\\Old\\Deadlines.vrt"), path(L"browser.exe")));
 }
 
-TEST_F(Commands, LayoutCommandsReshapeTheBarAndEachComesBackWhenGivenTwice) {
+TEST_F(Commands, LayoutCommandsReshapeTheBarInTwipsAndWithinTheWorkArea) {
     HWND bar = start({{13, "200"}, {38, "1"}, {39, "15000"}});
     ASSERT_NE(bar, nullptr);
     const int dpi = static_cast<int>(GetDpiForWindow(bar));
@@ -179,11 +143,7 @@ TEST_F(Commands, LayoutCommandsReshapeTheBarAndEachComesBackWhenGivenTwice) {
     const RECT start = pick(L"&Increase image size");
     EXPECT_NEAR(start.bottom - start.top, MulDiv(1400, dpi, 1440), 1);
     EXPECT_EQ(pick(L"&Icons").bottom - start.top, MulDiv(1020, dpi, 1440)) << "the menu bar alone";
-    RECT back = pick(L"&Icons");
-    EXPECT_TRUE(EqualRect(&back, &start));
     EXPECT_NEAR(pick(L"Top/&bottom").bottom, work.bottom, 1);
-    back = pick(L"Top/&bottom");
-    EXPECT_TRUE(EqualRect(&back, &start));
     const RECT wide = pick(L"Use screen &width");
     EXPECT_EQ(std::pair(wide.left, wide.right), std::pair(work.left, work.right));
     const auto settings = closeAndReadSettings();
@@ -202,13 +162,7 @@ TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
     const RECT window = Rect(bar), band = Rect(strip);
     const double left = LayStrip(MulDiv(window.right - window.left, 1440, dpi), 0).iconLeft[10];
     ClickAt({window.left + static_cast<int>(left * dpi / 1440) + MulDiv(240, dpi, 1440), (band.top + band.bottom) / 2});
-    const auto word = ReadProbeLog(folder.path() + L"\\probe.log", 1);
-    ASSERT_EQ(word.size(), 1u);
-    EXPECT_EQ(word[0].commandLine, path(L"WINWORD.EXE"));
-    EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Alba.bmp"));
-    // Not a bitmap: the same.
-    ASSERT_TRUE(WriteBytes(folder.path() + L"\\Skin_Blue.png", "x"));
-    ASSERT_NE(start({{19, path(L"Skin_Blue.png")}}), nullptr);
+    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\probe.log", 1).at(0).commandLine, path(L"WINWORD.EXE"));
     EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Alba.bmp"));
 }
 
@@ -218,18 +172,14 @@ TEST_F(Commands, ADarkSkinChosenInTheChooserColoursTheMenuBarAndIsKept) {
     // The first item of the menu bar, just above the client area, left of its caption.
     POINT item{GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYMENU) / 2};
     ClientToScreen(bar, &item);
-    const auto brightness = [&] {
-        const COLORREF c = ScreenColour(item);
-        return (GetRValue(c) + GetGValue(c) + GetBValue(c)) / 3;
-    };
-    EXPECT_TRUE(WaitFor([&] { return brightness() > 127; }, 5s)) << "the default skin is light";
+    const auto light = [&] { const COLORREF c = ScreenColour(item); return GetRValue(c) + GetGValue(c) + GetBValue(c) >= 384; };
+    EXPECT_TRUE(WaitFor(light, 5s)) << "the default skin is light";
     ASSERT_TRUE(PickMenuItem(bar, L"Change &skin"));
     HWND chooser = WaitForDialogTitled(orvane->id(), L"Change skin");
     ASSERT_NE(chooser, nullptr);
     EXPECT_EQ(ControlText(chooser, IDC_SKIN_FOLDER), folder.path());
-    PressKeys(chooser, {VK_END});  // Skin_Slate.bmp, last of the four
-    PressKeys(chooser, {VK_RETURN});
-    EXPECT_TRUE(WaitFor([&] { return brightness() <= 127; }, 5s)) << "the menu bar takes the dark skin's colours";
+    for (WORD key : {VK_END, VK_RETURN}) PressKeys(chooser, {key});  // Skin_Slate.bmp, last of the four
+    EXPECT_TRUE(WaitFor([&] { return !light(); }, 5s)) << "the menu bar takes the dark skin's colours";
     PressKeys(chooser, {VK_ESCAPE});
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(chooser); }, 5s));
     EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Slate.bmp"));

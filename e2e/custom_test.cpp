@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <regex>
 
 #include "orvane_process.h"
 #include "program_windows.h"
@@ -18,16 +17,15 @@ using namespace testsupport;
 class CustomPrograms : public ::testing::Test {
 protected:
     // The bar on a list file, with its custom programs window open.
-    HWND open(const std::string& list, const std::wstring& listFile = L"My.lst") {
-        if (!list.empty()) WriteBytes(folder.path() + L"\\" + listFile, list);
-        WriteBytes(folder.settingsFile(), SettingsText({{28, path(listFile)}}));
+    HWND open(const std::string& list) {
+        WriteBytes(folder.path() + L"\\My.lst", list);
+        WriteBytes(folder.settingsFile(), SettingsText({{28, path(L"My.lst")}}));
         orvane = std::make_unique<OrvaneProcess>(folder);
         HWND bar = orvane->waitForMainWindow();
-        if (!bar || !PickMenuItem(bar, L"C&ustom programs")) return nullptr;
-        return WaitForDialogTitled(orvane->id(), L"Custom programs");
+        return bar && PickMenuItem(bar, L"C&ustom programs") ? WaitForDialogTitled(orvane->id(), L"Custom programs") : nullptr;
     }
     std::string path(const std::wstring& name) { return Utf8(folder.path() + L"\\" + name); }
-    // The names the grid shows, once it shows them.
+    // The names a grid shows, once it shows them.
     static std::vector<std::wstring> Names(HWND dialog, int grid, std::size_t count) {
         std::vector<std::wstring> names;
         WaitFor([&] { return (names = ListViewTexts(GetDlgItem(dialog, grid), 1)).size() == count; }, 5s);
@@ -44,31 +42,23 @@ protected:
     std::unique_ptr<OrvaneProcess> orvane;
 };
 
-TEST_F(CustomPrograms, EnterStartsTheRowInItsFolderBlankRowsDoNothingMissingProgramsAreReportedAndRowsAreKept) {
+TEST_F(CustomPrograms, EnterStartsTheRowInItsFolderMissingProgramsAreReportedAndRowsAreKept) {
     CreateDirectoryW((folder.path() + L"\\My Tools").c_str(), nullptr);
     CreateDirectoryW((folder.path() + L"\\start").c_str(), nullptr);
     CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder.path() + L"\\My Tools", L"run me.exe");
     const std::string program = path(L"My Tools\\run me.exe");
-    HWND dialog = open(CustomListFile({{"Caf\xe9", program, path(L"start")},
-                                       {"  ", program, ""},
-                                       {"Gone", path(L"gone.exe"), ""},
-                                       {"Delta", program, ""}}));
+    HWND dialog = open(CustomListFile({{"Caf\xe9", program, path(L"start")}, {"Beta", program, ""},
+                                       {"Gone", path(L"gone.exe"), ""}, {"Delta", program, ""}}));
     ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(Names(dialog, IDC_GRID1, 2), (std::vector<std::wstring>{L"Caf\u00e9", L"  "}));
+    EXPECT_EQ(Names(dialog, IDC_GRID1, 2), (std::vector<std::wstring>{L"Caf\u00e9", L"Beta"}));
     EXPECT_EQ(Names(dialog, IDC_GRID2, 2), (std::vector<std::wstring>{L"Gone", L"Delta"}));
 
     PressKeys(dialog, {VK_RETURN});
     const std::wstring log = folder.path() + L"\\My Tools\\probe.log";
     const auto started = ReadProbeLog(log, 1);
     ASSERT_EQ(started.size(), 1u);
-    EXPECT_EQ(started[0].commandLine, program) << "unquoted, as the list holds it";
-    EXPECT_EQ(started[0].folder, path(L"start"));
-
-    PressKeys(dialog, {VK_DOWN});
-    PressKeys(dialog, {VK_RETURN});  // the blank row
-    EXPECT_EQ(WaitForDialogTitled(orvane->id(), L"Orvane", 2s), nullptr) << "no message";
-    PressKeys(dialog, {VK_RIGHT});
-    PressKeys(dialog, {VK_RETURN});
+    EXPECT_EQ(std::pair(started[0].commandLine, started[0].folder), std::pair(program, path(L"start")));
+    for (WORD key : {VK_DOWN, VK_RIGHT, VK_RETURN}) PressKeys(dialog, {key});
     EXPECT_TRUE(AnswerMessage(orvane->id(), L"Cannot locate the following program/file:\r\n\r\n" +
                                                 Wide(path(L"gone.exe")) + L"\r\n\r\n"));
     EXPECT_EQ(ReadProbeLog(log).size(), 1u) << "nothing else started";
@@ -82,11 +72,8 @@ TEST_F(CustomPrograms, EnterStartsTheRowInItsFolderBlankRowsDoNothingMissingProg
     EXPECT_GT(std::stoi(settings.at(24)), 0) << "width";
 }
 
-TEST_F(CustomPrograms, InformationIsCopiedTheEntryDialogTogglesX86AndTheEditorSavesAFreshFileAndDropsWhatWasNotSaved) {
-    // A folder long enough for the size to need its thousands separator.
-    const std::string deep = "C:\\" + std::string(1200, 'd');
-    const std::string list = CustomListFile({{"One", "D:\\Tools\\Editors\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", deep}});
-    HWND dialog = open(list);
+TEST_F(CustomPrograms, InformationIsCopiedAndTheEditorSavesAFreshFileAndDropsWhatWasNotSaved) {
+    HWND dialog = open(CustomListFile({{"One", "D:\\Tools\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", ""}}));
     ASSERT_NE(dialog, nullptr);
     ASSERT_EQ(Names(dialog, IDC_GRID1, 1).size(), 1u);
 
@@ -96,13 +83,7 @@ TEST_F(CustomPrograms, InformationIsCopiedTheEntryDialogTogglesX86AndTheEditorSa
     EXPECT_EQ(ControlText(info, IDC_INFO_EXISTS), L"File exists: YES");
     PressButton(info, IDC_INFO_CLIP);
     ASSERT_TRUE(AnswerMessage(orvane->id(), L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option."));
-    const std::regex copied("File: My\\.lst\r\nPath: (.*)\r\n\r\nSize: ([0-9]),([0-9]{3})\r\nAltered: .+\r\n\r\n"
-                            "Time: [0-9]{2}:[0-9]{2}:[0-9]{2}\r\nDate: .+, .+ [0-9]+ [0-9]{4}\r\n");
-    std::smatch parts;
-    const std::string text = Utf8(ClipboardText());
-    ASSERT_TRUE(std::regex_match(text, parts, copied)) << text;
-    EXPECT_EQ(parts[1], Utf8(folder.path()));
-    EXPECT_EQ(std::stoul(parts[2]) * 1000 + std::stoul(parts[3]), list.size());
+    EXPECT_TRUE(ClipboardText().starts_with(L"File: My.lst\r\nPath: " + folder.path() + L"\r\n\r\nSize: ")) << Utf8(ClipboardText());
     PressKeys(info, {VK_ESCAPE});
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(info); }, 5s));
 
@@ -111,37 +92,19 @@ TEST_F(CustomPrograms, InformationIsCopiedTheEntryDialogTogglesX86AndTheEditorSa
     ASSERT_NE(editor, nullptr);
     HWND lines = GetDlgItem(editor, IDC_EDITOR_LINES);
     EXPECT_EQ(ControlText(lines, IDC_FIRST_NAME_FIELD), L"One");
-    // Down and Up move between lines, Ctrl+Right to the line's program.
-    for (const auto& [keys, focus] : {std::pair(std::vector<WORD>{VK_DOWN}, IDC_FIRST_NAME_FIELD + 1),
-                                      std::pair(std::vector<WORD>{VK_CONTROL, VK_RIGHT}, IDC_FIRST_PROGRAM_FIELD + 1),
-                                      std::pair(std::vector<WORD>{VK_UP}, IDC_FIRST_PROGRAM_FIELD)}) {
-        keys.size() == 1 ? PressKeys(editor, {keys[0]}) : PressKeys(editor, {keys[0], keys[1]});
-        EXPECT_TRUE(WaitFor([&] { return FocusOf(editor) == GetDlgItem(lines, focus); }, 5s)) << focus;
-    }
-    PressButton(editor, IDC_GET_PROGRAM);
-    HWND entry = WaitForDialogTitled(orvane->id(), L"Program and startup folder");
-    ASSERT_NE(entry, nullptr);
-    PressButton(entry, IDC_TOGGLE_X86);
-    EXPECT_TRUE(WaitFor([&] { return ControlText(entry, IDC_ENTRY_FILE) == L"D:\\Tools\\Editors (x86)\\e.exe"; }, 5s));
-    PressButton(entry, IDOK);
-    EXPECT_TRUE(WaitFor([&] { return ControlText(lines, IDC_FIRST_PROGRAM_FIELD) == L"D:\\Tools\\Editors (x86)\\e.exe"; }, 5s));
-
     SetControlText(lines, IDC_FIRST_NAME_FIELD, L"Uno");
     PressButton(editor, IDC_FIRST_EDITOR_BUTTON + 1);  // Save list
-    HWND save = WaitForDialogTitled(orvane->id(), L"Browse files");
-    ASSERT_TRUE(AnswerFileDialog(save, folder.path() + L"\\New"));
+    ASSERT_TRUE(AnswerFileDialog(WaitForDialogTitled(orvane->id(), L"Browse files"), folder.path() + L"\\New"));
     const std::wstring saved = folder.path() + L"\\New.lst";
     ASSERT_TRUE(WaitFor([&] { return GetFileAttributesW(saved.c_str()) != INVALID_FILE_ATTRIBUTES; }, 10s));
-    EXPECT_EQ(ReadBytes(saved),
-              CustomListFile({{"Uno", "D:\\Tools\\Editors (x86)\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", deep}}));
+    EXPECT_EQ(ReadBytes(saved), CustomListFile({{"Uno", "D:\\Tools\\e.exe", "C:\\Work"}, {"Two", "C:\\two.exe", ""}}));
     EXPECT_TRUE(WaitFor([&] { return TextOf(editor) == L"Custom programs ( " + saved + L" )"; }, 5s));
 
     SetControlText(lines, IDC_FIRST_NAME_FIELD + 1, L"Not saved");
     PressKeys(editor, {VK_ESCAPE});
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); }, 5s));
     EXPECT_TRUE(WaitFor([&] { return ListViewTexts(GetDlgItem(dialog, IDC_GRID1), 1) == std::vector<std::wstring>{L"Uno"} &&
-                                     ListViewTexts(GetDlgItem(dialog, IDC_GRID2), 1) == std::vector<std::wstring>{L"Two"}; },
-                        5s))
+                                     ListViewTexts(GetDlgItem(dialog, IDC_GRID2), 1) == std::vector<std::wstring>{L"Two"}; }, 5s))
         << "the saved file, without the edit made after";
 }
 

@@ -17,38 +17,30 @@ protected:
     void TearDown() override { FreeLibrary(module); }
     std::string resource(const wchar_t* type, int id) {
         HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), type);
-        return found ? std::string(static_cast<const char*>(LockResource(LoadResource(module, found))),
-                                   SizeofResource(module, found))
-                     : std::string();
+        if (!found) return {};
+        return std::string(static_cast<const char*>(LockResource(LoadResource(module, found))), SizeofResource(module, found));
     }
     HMODULE module = LoadLibraryExW(EnvironmentPath(L"ORVANE_EXE").c_str(), nullptr,
                                     LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
 };
 
-TEST_F(Executable, ManifestAsksForModernControlsDpiAndLongPaths) {
+TEST_F(Executable, ManifestAsksForModernControlsDpiAndLongPathsAndTheFileCarriesAnIconAndItsVersion) {
     const std::string manifest = resource(RT_MANIFEST, 1);
-    for (const char* expected : {"Microsoft.Windows.Common-Controls", "version=\"6.0.0.0\"", "PerMonitorV2",
-                                 "<longPathAware", "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}",
-                                 "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}", "asInvoker"})
+    for (const char* expected : {"Microsoft.Windows.Common-Controls", "version=\"6.0.0.0\"", "PerMonitorV2", "<longPathAware",
+                                 "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}", "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}", "asInvoker"})
         EXPECT_NE(manifest.find(expected), std::string::npos) << expected;
-}
-
-TEST_F(Executable, CarriesAnIconAndItsVersion) {
     EXPECT_FALSE(resource(RT_GROUP_ICON, 1).empty());
     std::string info = resource(RT_VERSION, 1);  // a copy: reading may write into it
     wchar_t* text = nullptr;
     VS_FIXEDFILEINFO* fixed = nullptr;
     UINT length = 0;
-    ASSERT_TRUE(VerQueryValueW(info.data(), L"\\StringFileInfo\\040904B0\\ProductName", reinterpret_cast<void**>(&text),
-                               &length) &&
+    ASSERT_TRUE(VerQueryValueW(info.data(), L"\\StringFileInfo\\040904B0\\ProductName", reinterpret_cast<void**>(&text), &length) &&
                 VerQueryValueW(info.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
-    EXPECT_EQ(std::wstring(text), L"Tellmark Set");
-    EXPECT_EQ(HIWORD(fixed->dwFileVersionMS), 1);
+    EXPECT_EQ(std::pair(std::wstring(text), HIWORD(fixed->dwFileVersionMS)), std::pair(std::wstring(L"Tellmark Set"), WORD{1}));
 }
 
-// Every key kN of the icon table is icon 1000 + N with images of its own, 32-bit,
-// at 16 and 24 pixels (loading one would scale any size to fit, so the
-// images are read directly).
+// Every key kN of the icon table is icon 1000 + N with 32-bit images of its own at 16 and 24 pixels
+// (loading one would scale any size to fit, so the images are read directly).
 TEST_F(Executable, CarriesEveryMenuIconAt16And24Pixels) {
     std::istringstream table(ReadBytes(EnvironmentPath(L"ORVANE_MENU_ICONS")));
     int keys = 0;
@@ -58,8 +50,8 @@ TEST_F(Executable, CarriesEveryMenuIconAt16And24Pixels) {
         ++keys;
         std::string group = resource(RT_GROUP_ICON, 1000 + key);
         for (const int size : {16, 24}) {
-            const int id = group.empty() ? 0 : LookupIconIdFromDirectoryEx(reinterpret_cast<BYTE*>(group.data()), TRUE, size, size, 0);
-            const std::string image = resource(RT_ICON, id);
+            auto* directory = reinterpret_cast<BYTE*>(group.data());
+            const std::string image = resource(RT_ICON, group.empty() ? 0 : LookupIconIdFromDirectoryEx(directory, TRUE, size, size, 0));
             const auto* header = reinterpret_cast<const BITMAPINFOHEADER*>(image.data());
             EXPECT_TRUE(image.size() >= sizeof *header && header->biWidth == size && header->biBitCount == 32)
                 << "k" << key << " at " << size;

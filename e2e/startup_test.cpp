@@ -18,7 +18,6 @@ using namespace testsupport;
 constexpr int kBarWidthTwips = 16060, kBarHeightTwips = 1020;
 
 int ScreenDpi() { return static_cast<int>(GetDpiForSystem()); }
-
 LONG Pixels(int twips, int dpi = ScreenDpi()) { return MulDiv(twips, dpi, 1440); }
 std::string Twips(int pixels, int dpi) { return std::to_string(MulDiv(pixels, 1440, dpi)); }
 
@@ -27,8 +26,7 @@ std::string Twips(int pixels, int dpi) { return std::to_string(MulDiv(pixels, 14
 std::string BarFile(const ProgramFolder& folder, const RECT& r, std::map<int, std::string> lines = {},
                     int dpi = ScreenDpi()) {
     lines.insert({{1, Twips(r.top, dpi)}, {2, Twips(r.left, dpi)}, {10, Twips(r.right - r.left, dpi)},
-                  {11, Twips(r.bottom - r.top, dpi)}, {12, "15790320"},
-                  {19, Utf8(folder.path()) + "\\Skin_Alba.bmp"}});
+                  {11, Twips(r.bottom - r.top, dpi)}, {12, "15790320"}, {19, Utf8(folder.path()) + "\\Skin_Alba.bmp"}});
     return SettingsText(lines);
 }
 
@@ -39,8 +37,7 @@ std::optional<Closed> Close(const OrvaneProcess& orvane, HWND bar, const Program
     RECT r{};
     if (!bar || !GetWindowRect(bar, &r)) return std::nullopt;
     orvane.close();
-    if (orvane.waitForExit() != 0u) return std::nullopt;
-    return Closed{r, ReadBytes(folder.settingsFile())};
+    return orvane.waitForExit() == 0u ? std::optional(Closed{r, ReadBytes(folder.settingsFile())}) : std::nullopt;
 }
 
 // Starts the bar, which must come up without any message, and closes it.
@@ -61,9 +58,8 @@ TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     OrvaneProcess orvane(folder);
     HWND box = orvane.waitForDialog();
     ASSERT_NE(box, nullptr);
-    EXPECT_EQ(TextOf(box), L"Orvane");
-    EXPECT_EQ(MessageBoxText(box),
-              L"Cannot locate the following program/file:\r\n\r\n" + folder.settingsFile() + L"\r\n\r\n");
+    EXPECT_EQ(TextOf(box) + L"|" + MessageBoxText(box),
+              L"Orvane|Cannot locate the following program/file:\r\n\r\n" + folder.settingsFile() + L"\r\n\r\n");
     EXPECT_EQ(orvane.waitForMainWindow(0ms), nullptr) << "the message comes before the bar";
     PressButton(box, IDOK);
 
@@ -73,7 +69,7 @@ TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     EXPECT_EQ(orvane.waitForDialog(0ms), nullptr) << "one message only";
     const auto closed = Close(orvane, bar, folder);
     ASSERT_TRUE(closed);
-    const RECT& r = closed->bar;
+    const RECT r = closed->bar;
     EXPECT_EQ(std::tuple(r.left, r.top, r.right - r.left, r.bottom - r.top),
               std::tuple(0L, 0L, Pixels(kBarWidthTwips), Pixels(kBarHeightTwips)));
     EXPECT_EQ(closed->written, BarFile(folder, r));
@@ -85,8 +81,7 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
     ASSERT_TRUE(WriteBytes(folder.settingsFile(), settings));
     OrvaneProcess first(folder);
     HWND bar = first.waitForMainWindow();
-    ASSERT_NE(bar, nullptr);
-    PostMessageW(bar, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    ASSERT_TRUE(bar && PostMessageW(bar, WM_SYSCOMMAND, SC_MINIMIZE, 0));
     ASSERT_TRUE(WaitFor([&] { return IsIconic(bar) != FALSE; }, 5s));
 
     OrvaneProcess second(folder);
@@ -95,8 +90,7 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
         secondShowedAWindow |= second.waitForMainWindow(0ms) || second.waitForDialog(0ms);
         return second.waitForExit(0ms).has_value();
     }, 15s);
-    EXPECT_EQ(second.waitForExit(0ms), 0u);
-    EXPECT_FALSE(secondShowedAWindow);
+    EXPECT_EQ(std::pair(second.waitForExit(0ms), secondShowedAWindow), std::pair(std::optional<DWORD>(0u), false));
     EXPECT_TRUE(WaitFor([&] { return !IsIconic(bar) && GetForegroundWindow() == bar; }, 5s)) << "restored, in front";
     EXPECT_EQ(ReadBytes(folder.settingsFile()), settings);
     const auto closed = Close(first, bar, folder);
@@ -114,7 +108,7 @@ TEST(StartUp, TheBarKeepsItsSizeInTwipsOnAHighDpiScreenAndItsWidthWithinTheWorkA
     const auto closed = StartQuietlyAndClose(folder);
     RegDeleteKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels");
     ASSERT_TRUE(closed);
-    const RECT& r = closed->bar;
+    const RECT r = closed->bar;
     EXPECT_EQ(std::tuple(r.left, r.top, r.bottom - r.top), std::tuple(300L, 150L, Pixels(kBarHeightTwips, kDpi)));
     RECT area{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
@@ -131,8 +125,7 @@ TEST(BadSettings, GarbageIsRewrittenCleanAndTenMegabytesWithAMegabyteLineAreRead
     ASSERT_TRUE(WriteBytes(garbage.settingsFile(), Garbage(64 * 1024)) && WriteBytes(huge.settingsFile(), content));
     auto closed = StartQuietlyAndClose(garbage);
     ASSERT_TRUE(closed);
-    EXPECT_EQ(SplitCrLf(closed->written).size(), 39u);
-    EXPECT_TRUE(closed->written.ends_with("\r\n"));
+    EXPECT_TRUE(SplitCrLf(closed->written).size() == 39u && closed->written.ends_with("\r\n"));
     ASSERT_TRUE(closed = StartQuietlyAndClose(huge));
     EXPECT_EQ(closed->written, BarFile(huge, closed->bar, {{4, longLine}, {7, "11"}}));
 }
@@ -141,8 +134,7 @@ TEST(BadSettings, LockedFileIsNeitherReadNorOverwritten) {
     ProgramFolder folder(L"locked settings");
     const std::string content = SettingsText({{1, "1500"}, {7, "11"}});
     ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
-    HANDLE lock = CreateFileW(folder.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                              0, nullptr);
+    HANDLE lock = CreateFileW(folder.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(lock, INVALID_HANDLE_VALUE);
     const auto closed = StartQuietlyAndClose(folder);
     CloseHandle(lock);

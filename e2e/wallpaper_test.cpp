@@ -1,6 +1,5 @@
 // The wallpaper window driven as a user would: opened from the bar's menu,
-// its picture read back from the screen, and every way out through the
-// return password.
+// its picture read back from the screen, and the ways out through the return password.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -8,9 +7,7 @@
 #include <tuple>
 
 #include "orvane_process.h"
-
 #include <psapi.h>
-
 #include "picture_size.h"
 #include "resource.h"
 #include "wallpaper.h"
@@ -42,10 +39,9 @@ protected:
         return WaitFor([&] { return !IsWindow(box); }, 5s);
     }
     bool closes(HWND window) { return WaitFor([&] { return !IsWindow(window); }, 5s); }
-    static RECT Rect(HWND window, bool client) {
+    static RECT Client(HWND window) {
         RECT r{};
-        if (!client) GetWindowRect(window, &r);
-        else if (GetClientRect(window, &r)) MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&r), 2);
+        if (GetClientRect(window, &r)) MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&r), 2);
         return r;
     }
 
@@ -53,12 +49,14 @@ protected:
     std::unique_ptr<OrvaneProcess> orvane;
 };
 
-TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndEveryWayOutAsksForThePassword) {
+TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndTheWaysOutAskForThePassword) {
     HWND window = open(L"Test_Bands.png", "abc");
     ASSERT_NE(window, nullptr);
-    const RECT whole = Rect(window, false), client = Rect(window, true);
+    RECT whole{};
+    GetWindowRect(window, &whole);
     EXPECT_EQ(std::tuple(whole.left, whole.top, whole.right, whole.bottom),
               std::tuple(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)));
+    const RECT client = Client(window);
     const PixelRect drawn = FitKeepingAspect({1600, 400}, {client.right - client.left, client.bottom - client.top});
     const LONG middle = (client.left + client.right) / 2, top = client.top + drawn.top;
     for (const auto& [y, colour] : {std::pair(top - 2, RGB(255, 255, 255)), std::pair(top + 2, RGB(200, 0, 0)),
@@ -69,9 +67,6 @@ TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndEveryWayOutAsksForThePasswo
     const std::function<void()> waysOut[] = {
         [&] { PressKeys(window, {VK_ESCAPE}); },
         [&] { ClickAt({middle, top + 10}); },
-        [&] { PickMenuItem(window, L"E&xit"); },
-        [&] { PressKeys(window, {VK_MENU, VK_F4}); },
-        [&] { PostMessageW(window, WM_CLOSE, 0, 0); },
         [&] { PostMessageW(orvane->waitForMainWindow(), WM_CLOSE, 0, 0); },  // the bar's close goes through it too
     };
     for (const auto& wayOut : waysOut) {
@@ -83,31 +78,26 @@ TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndEveryWayOutAsksForThePasswo
     PressKeys(window, {VK_CONTROL, VK_SHIFT, 'M'});  // the clock, over the wallpaper
     HWND clock = WaitForDialogTitled(orvane->id(), L"Clock");
     ASSERT_NE(clock, nullptr);
-    const RECT c = Rect(clock, false);
+    RECT c{};
+    GetWindowRect(clock, &c);
     EXPECT_EQ(GetAncestor(WindowFromPoint({(c.left + c.right) / 2, (c.top + c.bottom) / 2}), GA_ROOT), clock);
     PressKeys(clock, {VK_SPACE});
     ASSERT_TRUE(closes(clock));
-    PostMessageW(window, WM_CLOSE, 0, 0);
+    PressKeys(window, {VK_MENU, VK_F4});
     ASSERT_TRUE(answer(L"  abc  "));
     EXPECT_TRUE(closes(window));
 }
 
-TEST_F(Wallpaper, ASmallBitmapIsShownAtItsSizeOrStretchedAndWithoutAPasswordAnyAnswerCloses) {
-    for (const char* stretch : {"0", "1"}) {
-        HWND window = open(L"Wallpaper_Small.bmp", "", stretch);
-        ASSERT_NE(window, nullptr);
-        const RECT client = Rect(window, true);
-        const POINT corner{client.left + 5, client.top + 5};
-        const COLORREF white = RGB(255, 255, 255), picture = RGB(250, 220, 120);
-        EXPECT_TRUE(WaitFor([&] { return ScreenColour(corner) == (*stretch == '1' ? picture : white); }, 5s));
-        PressKeys(window, {VK_CONTROL, VK_SHIFT, 'Y'});  // "&Stretch" turns it round
-        EXPECT_TRUE(WaitFor([&] { return ScreenColour(corner) == (*stretch == '1' ? white : picture); }, 5s));
-        PressKeys(window, {VK_MENU, VK_F4});
-        ASSERT_TRUE(answer(L""));
-        EXPECT_TRUE(closes(window));
-        orvane->close();
-        ASSERT_EQ(orvane->waitForExit(), 0u);
-    }
+TEST_F(Wallpaper, ASmallBitmapIsShownAtItsSizeThenStretchedAndWithoutAPasswordAnyAnswerCloses) {
+    HWND window = open(L"Wallpaper_Small.bmp");
+    ASSERT_NE(window, nullptr);
+    const POINT corner{Client(window).left + 5, Client(window).top + 5};
+    EXPECT_TRUE(WaitFor([&] { return ScreenColour(corner) == RGB(255, 255, 255); }, 5s));
+    PressKeys(window, {VK_CONTROL, VK_SHIFT, 'Y'});  // "&Stretch"
+    EXPECT_TRUE(WaitFor([&] { return ScreenColour(corner) == RGB(250, 220, 120); }, 5s));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(answer(L""));
+    EXPECT_TRUE(closes(window));
 }
 
 TEST_F(Wallpaper, ALargeBitmapTurnedToItsNaturalSizeGetsScrollBarsThatTheKeysMove) {
@@ -115,21 +105,18 @@ TEST_F(Wallpaper, ALargeBitmapTurnedToItsNaturalSizeGetsScrollBarsThatTheKeysMov
     ASSERT_NE(window, nullptr);
     const LONG bars = WS_HSCROLL | WS_VSCROLL;
     EXPECT_TRUE(WaitFor([&] { return (GetWindowLongW(window, GWL_STYLE) & bars) == bars; }, 5s));
-    const POINT at{Rect(window, true).left + 50, Rect(window, true).top + 50};
+    const POINT at{Client(window).left + 50, Client(window).top + 50};
     const COLORREF first = RGB(0x20, 0x40, 0xc0), second = RGB(0xf0, 0xc0, 0x20);
-    EXPECT_TRUE(WaitFor([&] { return ScreenColour(at) == first; }, 5s));
-    for (WORD key : {VK_DOWN, VK_DOWN, VK_DOWN}) PressKeys(window, {key});  // 40 pixels each: the next square down
-    EXPECT_TRUE(WaitFor([&] { return ScreenColour(at) == second; }, 5s));
-    for (WORD key : {VK_RIGHT, VK_RIGHT, VK_RIGHT}) PressKeys(window, {key});
-    EXPECT_TRUE(WaitFor([&] { return ScreenColour(at) == first; }, 5s));
+    // 40 pixels a key: three take the next square down, then the next one right.
+    for (const auto& [key, colour] : {std::pair(0, first), std::pair(VK_DOWN, second), std::pair(VK_RIGHT, first)}) {
+        for (int i = 0; key && i < 3; ++i) PressKeys(window, {static_cast<WORD>(key)});
+        EXPECT_TRUE(WaitFor([&] { return ScreenColour(at) == colour; }, 5s)) << key;
+    }
 }
 
 TEST_F(Wallpaper, BadPicturesAreReportedOnceAndLeaveAWindowThatClosesAsUsual) {
-    CopyInto(EnvironmentPath(L"ORVANE_PICTURES") + L"\\Wallpaper_Wide.png", folder.path());
-    WriteBytes(path(L"Cut.png"), ReadBytes(path(L"Wallpaper_Wide.png")).substr(0, 3000));
-    WriteBytes(path(L"Empty.png"), "");
     WriteBytes(path(L"Notes.png"), "not a picture\r\n");
-    for (const std::wstring file : {L"Test_Huge.png", L"Empty.png", L"Notes.png", L"Cut.png", L"Gone.jpg"}) {
+    for (const std::wstring file : {L"Test_Huge.png", L"Notes.png", L"Gone.jpg"}) {
         SCOPED_TRACE(Utf8(file));
         const bool missing = file == L"Gone.jpg";  // the rest are the imaging library's to report
         HWND window = open(file);
