@@ -21,9 +21,7 @@ int wmain(int argc, wchar_t** argv) {
         HWND dialog = nullptr;
         WaitFor([&] { return (dialog = FindProcessWindow(0, e2e::kDialogClass, argv[2])) != nullptr; }, kLong);
         RECT r{};
-        if (!dialog || !GetWindowRect(dialog, &r)) return 1;
-        std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top);
-        return 0;
+        return dialog && GetWindowRect(dialog, &r) ? std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top), 0 : 1;
     }
     if (step == L"leave" && argc > 2) {
         HWND window = FindProcessWindow(0, e2e::kDialogClass, argv[2]), box = nullptr;

@@ -50,13 +50,9 @@ HWND OrvaneProcess::waitForMainWindow(std::chrono::milliseconds timeout) const {
     return bar;
 }
 
-HWND OrvaneProcess::waitForDialog(std::chrono::milliseconds timeout) const {
-    return WaitForDialogTitled(id_, L"*", timeout);  // any title
-}
+HWND OrvaneProcess::waitForDialog(std::chrono::milliseconds timeout) const { return WaitForDialogTitled(id_, L"*", timeout); }
 
-void OrvaneProcess::close() const {
-    if (HWND bar = waitForMainWindow(0ms)) PostMessageW(bar, WM_CLOSE, 0, 0);
-}
+void OrvaneProcess::close() const { if (HWND bar = waitForMainWindow(0ms)) PostMessageW(bar, WM_CLOSE, 0, 0); }
 
 std::optional<DWORD> OrvaneProcess::waitForExit(std::chrono::milliseconds timeout) const {
     DWORD code = 0;
@@ -70,10 +66,8 @@ void PressButton(HWND dialog, int buttonId) { PostMessageW(GetDlgItem(dialog, bu
 
 bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId, const std::wstring& title) {
     HWND box = WaitForDialogTitled(processId, title);
-    if (!box || MessageBoxText(box) != text) {
-        std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str());
-        return false;
-    }
+    if (!box || MessageBoxText(box) != text)
+        return std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str()), false;
     PressButton(box, buttonId);
     return WaitFor([&] { return !IsWindow(box); }, 5s);
 }
