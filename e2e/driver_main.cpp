@@ -12,33 +12,31 @@
 #include "win_support.h"
 
 using namespace orvane;
+using testsupport::FindProcessWindow, testsupport::WaitFor;
+constexpr std::chrono::seconds kLong(30);
 
 int wmain(int argc, wchar_t** argv) {
     const std::wstring step = argc > 1 ? argv[1] : L"";
     if (step == L"rect" && argc > 2) {
         HWND dialog = nullptr;
-        testsupport::WaitFor([&] { return (dialog = testsupport::FindProcessWindow(0, e2e::kDialogClass, argv[2])) != nullptr; },
-                             std::chrono::seconds(30));
+        WaitFor([&] { return (dialog = FindProcessWindow(0, e2e::kDialogClass, argv[2])) != nullptr; }, kLong);
         RECT r{};
-        if (!dialog || !GetWindowRect(dialog, &r)) return 1;
-        std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top);
-        return 0;
+        return dialog && GetWindowRect(dialog, &r) ? std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top), 0 : 1;
     }
     if (step == L"leave" && argc > 2) {
-        using testsupport::FindProcessWindow;
         HWND window = FindProcessWindow(0, e2e::kDialogClass, argv[2]), box = nullptr;
         if (window) PostMessageW(window, WM_CLOSE, 0, 0);
-        testsupport::WaitFor([&] { return (box = FindProcessWindow(0, e2e::kDialogClass, L"Orvane")) != nullptr; }, std::chrono::seconds(30));
+        WaitFor([&] { return (box = FindProcessWindow(0, e2e::kDialogClass, L"Orvane")) != nullptr; }, kLong);
         if (box) e2e::PressButton(box, IDOK);
-        return window && box && testsupport::WaitFor([&] { return !IsWindow(window); }, std::chrono::seconds(30)) ? 0 : 1;
+        return window && box && WaitFor([&] { return !IsWindow(window); }, kLong) ? 0 : 1;
     }
     if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar" && !(step == L"pick" && argc > 2)) {
         std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | leave TITLE | close-bar\n");
         return 2;
     }
     HWND bar = nullptr;
-    testsupport::WaitFor([&] { return (bar = FindWindowW(e2e::kMainWindowClass, nullptr)) && IsWindowVisible(bar); },
-                         std::chrono::seconds(step == L"close-bar" ? 0 : 30));
+    WaitFor([&] { return (bar = FindWindowW(e2e::kMainWindowClass, nullptr)) && IsWindowVisible(bar); },
+            step == L"close-bar" ? std::chrono::seconds(0) : kLong);
     if (!bar) return 1;
     if (step == L"open-menu") e2e::PressKeys(bar, {VK_MENU, 'F'});
     if (step == L"pick") return e2e::PickMenuItem(bar, argv[2]) ? 0 : 1;
@@ -46,8 +44,7 @@ int wmain(int argc, wchar_t** argv) {
     DWORD processId = 0;
     GetWindowThreadProcessId(bar, &processId);
     HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
-    PostMessageW(bar, WM_CANCELMODE, 0, 0);  // a menu left open
-    PostMessageW(bar, WM_CLOSE, 0, 0);
+    PostMessageW(bar, WM_CANCELMODE, 0, 0), PostMessageW(bar, WM_CLOSE, 0, 0);  // after closing a menu left open
     const bool ended = process && WaitForSingleObject(process, 30000) == WAIT_OBJECT_0;
     if (process) CloseHandle(process);
     return ended ? 0 : 1;

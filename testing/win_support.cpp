@@ -14,23 +14,20 @@ std::wstring ExeFolder() {
 }
 
 std::string Utf8(const std::wstring& text) {
-    const int size = static_cast<int>(text.size());
-    std::string bytes(WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), size, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
+    std::string bytes(WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0, nullptr, nullptr), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), bytes.data(), int(bytes.size()), nullptr, nullptr);
     return bytes;
 }
 
 std::wstring Wide(const std::string& utf8) {
-    const int size = static_cast<int>(utf8.size());
-    std::wstring text(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text.data(), static_cast<int>(text.size()));
+    std::wstring text(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), nullptr, 0), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), text.data(), int(text.size()));
     return text;
 }
 
 std::wstring WindowsPath(const std::wstring& path) {
-    if (path.empty() || path[0] != L'/') return path;
-    std::wstring converted = L"Z:" + path;
-    std::replace(converted.begin(), converted.end(), L'/', L'\\');
+    std::wstring converted = path.starts_with(L'/') ? L"Z:" + path : path;
+    if (path.starts_with(L'/')) std::ranges::replace(converted, L'/', L'\\');
     return converted;
 }
 
@@ -70,9 +67,8 @@ void RemoveTree(const std::wstring& folder) {
 
 std::wstring FreshFolder(const std::wstring& root, const std::wstring& name) {
     const std::wstring folder = root + L"\\" + name;
-    RemoveTree(folder);
     std::error_code error;
-    std::filesystem::create_directories(folder, error);
+    RemoveTree(folder), std::filesystem::create_directories(folder, error);
     return folder;
 }
 
@@ -87,21 +83,19 @@ bool WaitFor(const std::function<bool()>& condition, std::chrono::milliseconds t
 std::wstring TextOf(HWND window) {
     wchar_t text[4096] = {};
     DWORD_PTR result = 0;
-    SendMessageTimeoutW(window, WM_GETTEXT, 4096, reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG, 2000, &result);
+    SendMessageTimeoutW(window, WM_GETTEXT, 4096, LPARAM(text), SMTO_ABORTIFHUNG, 2000, &result);
     return text;
 }
 
 HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title) {
     const std::wstring_view wanted = title ? title : L"";
-    const bool prefix = wanted.ends_with(L'*');
     const auto matches = [&](const std::wstring& text) {
-        return prefix ? text.starts_with(wanted.substr(0, wanted.size() - 1)) : text == wanted;
+        return wanted.ends_with(L'*') ? text.starts_with(wanted.substr(0, wanted.size() - 1)) : text == wanted;
     };
     for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr;) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        if ((owner == processId || processId == 0) && IsWindowVisible(window) && (!title || matches(TextOf(window))))
-            return window;
+        if ((owner == processId || !processId) && IsWindowVisible(window) && (!title || matches(TextOf(window)))) return window;
     }
     return nullptr;
 }

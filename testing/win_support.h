@@ -1,5 +1,4 @@
-// Helpers shared by the Windows test programs (Win32 tests, end-to-end tests,
-// benchmarks): files, folders, text and waiting.
+// Helpers shared by the Windows test programs (Win32 tests, end-to-end tests, benchmarks): files, folders, text, waiting.
 #pragma once
 
 #include <windows.h>
@@ -28,16 +27,14 @@ void RemoveTree(const std::wstring& folder);
 
 // Polls until the condition holds or the time is up; true when it held.
 bool WaitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout);
-// A visible top-level window of the process (of any, for 0), by class and title
-// when given; a title ending in "*" matches every title that starts with the rest.
+// A visible top-level window of the process (of any, for 0), by class and title when given; a title ending in "*"
+// matches every title that starts with the rest.
 HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title = nullptr);
 // Text of another process's window or control, through WM_GETTEXT.
 std::wstring TextOf(HWND window);
 
 // One start seen by the probe: its exact command line and working folder.
-struct ProbeRecord {
-    std::string commandLine, folder;
-};
+struct ProbeRecord { std::string commandLine, folder; };
 // The starts in the probe's log, once there are at least this many (or ten seconds have passed).
 std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath, std::size_t atLeast = 0);
 

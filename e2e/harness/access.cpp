@@ -17,20 +17,15 @@ namespace {
 
 std::wstring ClassOf(HWND window) {
     wchar_t name[64] = {};
-    GetClassNameW(window, name, 64);
-    return name;
+    return {name, std::size_t(GetClassNameW(window, name, 64))};
 }
 
 // The visible controls inside the window, at any depth.
 std::vector<HWND> VisibleControls(HWND window) {
     std::vector<HWND> controls;
-    EnumChildWindows(
-        window,
-        [](HWND control, LPARAM found) {
-            if (IsWindowVisible(control)) reinterpret_cast<std::vector<HWND>*>(found)->push_back(control);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&controls));
+    EnumChildWindows(window, [](HWND control, LPARAM found) {
+        if (IsWindowVisible(control)) reinterpret_cast<std::vector<HWND>*>(found)->push_back(control);
+        return TRUE; }, LPARAM(&controls));
     return controls;
 }
 
@@ -39,19 +34,6 @@ wchar_t AccessKey(const std::wstring& text) {
     for (std::size_t at = 0; (at = text.find(L'&', at)) != std::wstring::npos && at + 1 < text.size(); at += 2)
         if (text[at + 1] != L'&') return static_cast<wchar_t>(std::towupper(text[at + 1]));
     return 0;
-}
-
-// Texts that carry one key among several, as "K: text, text".
-void AddClashes(const std::vector<std::wstring>& texts, std::vector<std::wstring>& clashes) {
-    std::map<wchar_t, std::vector<std::wstring>> carriers;
-    for (const std::wstring& text : texts)
-        if (const wchar_t key = AccessKey(text)) carriers[key].push_back(text);
-    for (const auto& [key, carrying] : carriers) {
-        if (carrying.size() < 2) continue;
-        std::wstring clash{key, L':'};
-        for (const std::wstring& text : carrying) clash += L" " + text;
-        clashes.push_back(clash);
-    }
 }
 
 }  // namespace
@@ -68,8 +50,14 @@ std::vector<std::wstring> AccessKeyClashes(HWND window) {
     }
     for (HWND control : VisibleControls(window))
         if (ClassOf(control) != L"Edit" && ClassOf(control) != WC_LISTVIEWW) menus[-1].push_back(TextOf(control));
-    std::vector<std::wstring> clashes;
-    for (const auto& [opener, texts] : menus) AddClashes(texts, clashes);
+    std::vector<std::wstring> clashes;  // texts that carry one key among several, as "K: text, text"
+    for (const auto& [opener, texts] : menus) {
+        std::map<wchar_t, std::pair<int, std::wstring>> carriers;  // how many, and their texts
+        for (const std::wstring& text : texts)
+            if (const wchar_t key = AccessKey(text)) ++carriers[key].first, carriers[key].second += L" " + text;
+        for (const auto& [key, carrying] : carriers)
+            if (carrying.first > 1) clashes.push_back(std::wstring{key, L':'} + carrying.second);
+    }
     return clashes;
 }
 
@@ -77,8 +65,8 @@ std::vector<std::wstring> UnnamedControls(HWND window) {
     std::vector<std::wstring> unnamed;
     for (HWND control : VisibleControls(window)) {
         const std::wstring type = ClassOf(control);
-        const bool frame = type == L"Button" && (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
-        if ((type == L"Button" || type == L"Orvane.IconStrip") && !frame && TextOf(control).empty())
+        const bool frame = (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+        if (((type == L"Button" && !frame) || type == L"Orvane.IconStrip") && TextOf(control).empty())
             unnamed.push_back(type + L" " + std::to_wstring(GetDlgCtrlID(control)));
         if (type == WC_LISTVIEWW)
             for (const std::wstring& title : ListViewColumns(control))
@@ -94,7 +82,6 @@ HWND FocusOf(HWND window) {
 }
 
 std::vector<FocusStop> TabCycle(HWND window) {
-    const auto focus = [window] { return FocusOf(window); };
     const auto stop = [&](HWND control) {
         FocusStop at{control, {}, IsWindowVisible(control) != FALSE};
         GetWindowRect(control, &at.place);
@@ -108,12 +95,12 @@ std::vector<FocusStop> TabCycle(HWND window) {
         }
         return at;
     };
-    std::vector<FocusStop> visited{stop(focus())};
+    std::vector<FocusStop> visited{stop(FocusOf(window))};
     while (visited.size() < 300 && IsWindow(window)) {
         PressKeys(window, {VK_TAB});
         // One stop alone keeps the focus where it is.
-        if (!WaitFor([&] { return focus() != visited.back().control; }, 1s)) break;
-        const HWND now = focus();
+        if (!WaitFor([&] { return FocusOf(window) != visited.back().control; }, 1s)) break;
+        const HWND now = FocusOf(window);
         if (std::ranges::find(visited, now, &FocusStop::control) != visited.end()) break;
         FocusStop at;
         WaitFor([&] { return (at = stop(now)).seen; }, 1s);  // a panel scrolls its new focus into view

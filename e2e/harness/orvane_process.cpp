@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -19,10 +18,9 @@ ProgramFolder::ProgramFolder(const std::wstring& name)
     CopyInto(EnvironmentPath(L"ORVANE_EXE"), path_);
     // The built skins: the default one, and others (a dark one among them) to choose; and the hand cursor.
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(EnvironmentPath(L"ORVANE_SKINS"), error)) {
-        const std::wstring file = entry.path().filename().wstring();
-        if (file.starts_with(L"Skin_") || file == L"HandOpen.ico") CopyInto(entry.path().wstring(), path_);
-    }
+    for (const auto& entry : std::filesystem::directory_iterator(EnvironmentPath(L"ORVANE_SKINS"), error))
+        if (const std::wstring file = entry.path().filename().wstring(); file.starts_with(L"Skin_") || file == L"HandOpen.ico")
+            CopyInto(entry.path().wstring(), path_);
 }
 
 OrvaneProcess::OrvaneProcess(const ProgramFolder& folder) {
@@ -34,8 +32,7 @@ OrvaneProcess::OrvaneProcess(const ProgramFolder& folder) {
     if (CreateProcessW(exe.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.path().c_str(),
                        &startup, &info)) {
         CloseHandle(info.hThread);
-        process_ = info.hProcess;
-        id_ = info.dwProcessId;
+        process_ = info.hProcess, id_ = info.dwProcessId;
     }
 }
 
@@ -53,15 +50,9 @@ HWND OrvaneProcess::waitForMainWindow(std::chrono::milliseconds timeout) const {
     return bar;
 }
 
-HWND OrvaneProcess::waitForDialog(std::chrono::milliseconds timeout) const {
-    HWND box = nullptr;
-    WaitFor([&] { return (box = FindProcessWindow(id_, kDialogClass)) != nullptr; }, timeout);
-    return box;
-}
+HWND OrvaneProcess::waitForDialog(std::chrono::milliseconds timeout) const { return WaitForDialogTitled(id_, L"*", timeout); }
 
-void OrvaneProcess::close() const {
-    if (HWND bar = waitForMainWindow(0ms)) PostMessageW(bar, WM_CLOSE, 0, 0);
-}
+void OrvaneProcess::close() const { if (HWND bar = waitForMainWindow(0ms)) PostMessageW(bar, WM_CLOSE, 0, 0); }
 
 std::optional<DWORD> OrvaneProcess::waitForExit(std::chrono::milliseconds timeout) const {
     DWORD code = 0;
@@ -75,10 +66,8 @@ void PressButton(HWND dialog, int buttonId) { PostMessageW(GetDlgItem(dialog, bu
 
 bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId, const std::wstring& title) {
     HWND box = WaitForDialogTitled(processId, title);
-    if (!box || MessageBoxText(box) != text) {
-        std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str());
-        return false;
-    }
+    if (!box || MessageBoxText(box) != text)
+        return std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str()), false;
     PressButton(box, buttonId);
     return WaitFor([&] { return !IsWindow(box); }, 5s);
 }
@@ -87,8 +76,7 @@ std::vector<MenuItem> ReadMenu(HWND window) {
     static HMODULE hook = LoadLibraryW((ExeFolder() + L"\\menu_hook.dll").c_str());
     const auto procedure = reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(GetProcAddress(hook, "ReadMenuHook")));
     if (!procedure) return {};
-    HANDLE map = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
-                                    static_cast<DWORD>(kMenuDumpChars * sizeof(wchar_t)), kMenuDumpName);
+    HANDLE map = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, DWORD(kMenuDumpChars * 2), kMenuDumpName);
     HANDLE done = CreateEventW(nullptr, TRUE, FALSE, kMenuDoneName);
     auto* view = static_cast<wchar_t*>(MapViewOfFile(map, FILE_MAP_READ, 0, 0, 0));
     HHOOK installed = SetWindowsHookExW(WH_GETMESSAGE, procedure, hook, GetWindowThreadProcessId(window, nullptr));
@@ -100,11 +88,7 @@ std::vector<MenuItem> ReadMenu(HWND window) {
         PostMessageW(window, RegisterWindowMessageW(kReadMenuMessage), 0, 0);
         if (WaitForSingleObject(done, 5000) == WAIT_OBJECT_0) dump = view;
     }
-    UnhookWindowsHookEx(installed);
-    UnmapViewOfFile(view);
-    CloseHandle(done);
-    CloseHandle(map);
-
+    UnhookWindowsHookEx(installed), UnmapViewOfFile(view), CloseHandle(done), CloseHandle(map);
     std::vector<MenuItem> items;
     std::wistringstream lines(dump);
     for (MenuItem item; lines >> item.depth >> item.id >> item.type && lines.get() && std::getline(lines, item.text);)
@@ -125,8 +109,7 @@ void PressKeys(HWND window, std::initializer_list<WORD> keys) {
     WaitFor([&] { return GetForegroundWindow() == window; }, 2s);
     std::vector<INPUT> inputs;
     auto add = [&](WORD key, DWORD flags) {
-        inputs.push_back({.type = INPUT_KEYBOARD,
-                          .ki = {key, static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), flags, 0, 0}});
+        inputs.push_back({.type = INPUT_KEYBOARD, .ki = {key, WORD(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), flags, 0, 0}});
     };
     for (WORD key : keys) add(key, 0);
     for (auto key = keys.end(); key != keys.begin();) add(*--key, KEYEVENTF_KEYUP);
@@ -143,8 +126,7 @@ void ClickAt(POINT point) {
 COLORREF ScreenColour(POINT point) {
     HDC screen = GetDC(nullptr);
     const COLORREF colour = GetPixel(screen, point.x, point.y);
-    ReleaseDC(nullptr, screen);
-    return colour;
+    return ReleaseDC(nullptr, screen), colour;
 }
 
 HWND WaitForDialogTitled(DWORD processId, const std::wstring& title, std::chrono::milliseconds timeout) {
@@ -156,7 +138,7 @@ HWND WaitForDialogTitled(DWORD processId, const std::wstring& title, std::chrono
 std::wstring ControlText(HWND dialog, int id) { return TextOf(GetDlgItem(dialog, id)); }
 
 void SetControlText(HWND dialog, int id, const std::wstring& text) {
-    SendMessageW(GetDlgItem(dialog, id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    SendMessageW(GetDlgItem(dialog, id), WM_SETTEXT, 0, LPARAM(text.c_str()));
 }
 
 bool AnswerFileDialog(HWND dialog, const std::wstring& fileName) {
@@ -164,78 +146,59 @@ bool AnswerFileDialog(HWND dialog, const std::wstring& fileName) {
     HWND combo = FindWindowExW(GetDlgItem(dialog, 0x47C), nullptr, L"ComboBox", nullptr);
     HWND name = FindWindowExW(combo ? combo : GetDlgItem(dialog, 0x47C), nullptr, L"Edit", nullptr);
     if (!name) return false;
-    SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(fileName.c_str()));
-    PressButton(dialog, IDOK);
-    return true;
+    SendMessageW(name, WM_SETTEXT, 0, LPARAM(fileName.c_str()));
+    return PressButton(dialog, IDOK), true;
 }
 
 namespace {
 
-// A list view writes texts through pointers in its own process, so the
-// request and its text buffer are placed there and the text read back.
-class RemoteText {
-public:
-    static constexpr int kChars = 1024;
-
-    explicit RemoteText(HWND window) {
-        DWORD processId = 0;
-        GetWindowThreadProcessId(window, &processId);
-        process_.reset(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, processId));
-        if (process_)
-            block_ = VirtualAllocEx(process_.get(), nullptr, kBytes, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
-    }
-    ~RemoteText() {
-        if (block_) VirtualFreeEx(process_.get(), block_, 0, MEM_RELEASE);
-    }
-
-    // Sends the message with the request (an LVITEMW or LVCOLUMNW); empty when it fails.
-    template <class Request>
-    std::wstring ask(HWND window, UINT message, WPARAM wParam, Request request) {
-        static_assert(sizeof(Request) <= kRequestBytes);
-        auto* remoteText = reinterpret_cast<wchar_t*>(static_cast<char*>(block_) + kRequestBytes);
-        request.pszText = remoteText;
-        request.cchTextMax = kChars;
+// A list view writes texts through pointers in its own process, so each request (an LVITEMW or LVCOLUMNW) and its
+// text buffer are placed there, sent for every index below the count, and the texts read back; empty where it fails.
+template <class Request>
+std::vector<std::wstring> AskRemote(HWND listView, UINT message, int count, Request request) {
+    constexpr int kChars = 1024;
+    constexpr std::size_t kRequestBytes = 256;
+    static_assert(sizeof(Request) <= kRequestBytes);
+    DWORD processId = 0;
+    GetWindowThreadProcessId(listView, &processId);
+    const std::unique_ptr<void, decltype(&CloseHandle)> process(
+        OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, processId), CloseHandle);
+    void* block = process ? VirtualAllocEx(process.get(), nullptr, kRequestBytes + kChars * sizeof(wchar_t),
+                                           MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE) : nullptr;
+    auto* remoteText = reinterpret_cast<wchar_t*>(static_cast<char*>(block) + kRequestBytes);
+    request.pszText = remoteText, request.cchTextMax = kChars;
+    std::vector<std::wstring> texts;
+    for (int index = 0; index < count; ++index) {
         std::wstring text(kChars, L'\0');
-        if (!block_ || !WriteProcessMemory(process_.get(), block_, &request, sizeof request, nullptr) ||
-            !SendMessageW(window, message, wParam, reinterpret_cast<LPARAM>(block_)) ||
-            !ReadProcessMemory(process_.get(), remoteText, text.data(), text.size() * sizeof(wchar_t), nullptr))
-            return {};
-        return text.c_str();
+        const bool read = block && WriteProcessMemory(process.get(), block, &request, sizeof request, nullptr) &&
+                          SendMessageW(listView, message, index, LPARAM(block)) &&
+                          ReadProcessMemory(process.get(), remoteText, text.data(), kChars * sizeof(wchar_t), nullptr);
+        texts.push_back(read ? text.c_str() : L"");
     }
+    if (block) VirtualFreeEx(process.get(), block, 0, MEM_RELEASE);
+    return texts;
+}
 
-private:
-    static constexpr std::size_t kRequestBytes = 256, kBytes = kRequestBytes + kChars * sizeof(wchar_t);
-    std::unique_ptr<void, decltype(&CloseHandle)> process_{nullptr, CloseHandle};
-    void* block_ = nullptr;
-};
+int Rows(HWND listView) { return int(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); }
 
 }  // namespace
 
 std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
-    RemoteText remote(listView);
     LVITEMW item{};
-    item.mask = LVIF_TEXT;
-    item.iSubItem = column;
-    std::vector<std::wstring> texts;
-    for (int row = 0, rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); row < rows; ++row)
-        texts.push_back(remote.ask(listView, LVM_GETITEMTEXTW, row, item));
-    return texts;
+    item.mask = LVIF_TEXT, item.iSubItem = column;
+    return AskRemote(listView, LVM_GETITEMTEXTW, Rows(listView), item);
 }
 
 std::vector<std::wstring> ListViewColumns(HWND listView) {
-    RemoteText remote(listView);
     const auto header = reinterpret_cast<HWND>(SendMessageW(listView, LVM_GETHEADER, 0, 0));
-    LVCOLUMNW request{};
-    request.mask = LVCF_TEXT;
-    std::vector<std::wstring> titles;
-    for (int column = 0, columns = static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)); column < columns; ++column)
-        titles.push_back(remote.ask(listView, LVM_GETCOLUMNW, column, request));
-    return titles;
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT;
+    return AskRemote(listView, LVM_GETCOLUMNW, int(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)), column);
 }
 
 std::vector<bool> ListViewChecks(HWND listView) {
     std::vector<bool> checks;
-    for (int row = 0, rows = static_cast<int>(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); row < rows; ++row)
+    for (int row = 0; row < Rows(listView); ++row)
         checks.push_back((SendMessageW(listView, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2);
     return checks;
 }
@@ -244,12 +207,9 @@ std::wstring ClipboardText() {
     // The program that just copied, or Wine's bridge to the X selection, may hold it a moment.
     if (!WaitFor([] { return OpenClipboard(nullptr) != FALSE; }, 1s)) return {};
     std::wstring text;
-    if (HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
-        if (const auto* chars = static_cast<const wchar_t*>(GlobalLock(data))) {
-            text.assign(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t)));
-            GlobalUnlock(data);
-        }
-    }
+    HANDLE data = GetClipboardData(CF_UNICODETEXT);
+    if (const auto* chars = data ? static_cast<const wchar_t*>(GlobalLock(data)) : nullptr)
+        text.assign(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t))), GlobalUnlock(data);
     CloseClipboard();
     return text;
 }

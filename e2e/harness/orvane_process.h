@@ -1,6 +1,5 @@
-// Drives orvane.exe from another process the way a user would: start it in a
-// program folder with a settings file, use its menus, keys and dialogs, answer
-// its message boxes, close it, read what it wrote.
+// Drives orvane.exe from another process the way a user would: start it in a program folder with a settings file,
+// use its menus, keys and dialogs, answer its message boxes, close it, read what it wrote.
 #pragma once
 
 #include <windows.h>
@@ -35,8 +34,7 @@ private:
 class OrvaneProcess {
 public:
     explicit OrvaneProcess(const ProgramFolder& folder);
-    OrvaneProcess(const OrvaneProcess&) = delete;
-    OrvaneProcess& operator=(const OrvaneProcess&) = delete;
+    OrvaneProcess(const OrvaneProcess&) = delete; OrvaneProcess& operator=(const OrvaneProcess&) = delete;
     ~OrvaneProcess();
 
     DWORD id() const { return id_; }
@@ -58,12 +56,10 @@ private:
 std::wstring MessageBoxText(HWND box);
 // Presses a dialog's button, as a click does.
 void PressButton(HWND dialog, int buttonId);
-// Checks the text of the program's message box, once it shows, and answers
-// it with a button; true once it has gone.
+// Checks the text of the program's message box, once it shows, and answers it with a button; true once it has gone.
 bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId = IDOK, const std::wstring& title = L"Orvane");
 
-// The 39 lines of a settings file, each ending in CR LF: text lines empty,
-// number lines "0", but the given lines (1-based).
+// The 39 lines of a settings file, each ending in CR LF: text lines empty, number lines "0", but the given (1-based).
 inline std::string SettingsText(const std::map<int, std::string>& changed = {}) {
     constexpr char kTextLines[] = "..tttt.......tttttttt......ttt.ttttt...";
     std::string text;
@@ -76,16 +72,13 @@ inline std::string SettingsText(const std::map<int, std::string>& changed = {}) 
 inline std::vector<std::string> SplitCrLf(const std::string& text) {
     std::vector<std::string> lines;
     std::size_t at = 0;
-    for (std::size_t end; (end = text.find("\r\n", at)) != std::string::npos; at = end + 2)
-        lines.push_back(text.substr(at, end - at));
+    for (std::size_t end; (end = text.find("\r\n", at)) != std::string::npos; at = end + 2) lines.push_back(text.substr(at, end - at));
     if (at < text.size()) lines.push_back(text.substr(at));
     return lines;
 }
 
-// A user's hands on the program: its menus, the keyboard, its dialogs' controls.
-
-// What the harness and menu_hook.dll, loaded into orvane.exe, share to read a
-// menu inside the program that owns it.
+// A user's hands on the program: its menus, the keyboard, its dialogs' controls. What the harness and
+// menu_hook.dll, loaded into orvane.exe, share to read a menu inside the program that owns it:
 inline constexpr wchar_t kReadMenuMessage[] = L"Orvane.Test.ReadMenu";
 inline constexpr wchar_t kMenuDumpName[] = L"Local\\Orvane.Test.MenuDump";
 inline constexpr wchar_t kMenuDoneName[] = L"Local\\Orvane.Test.MenuDone";
@@ -126,25 +119,18 @@ std::wstring ClipboardText();
 // The titles of a list view's columns, as a screen reader names them.
 std::vector<std::wstring> ListViewColumns(HWND listView);
 
-// What a keyboard or screen-reader user meets in a window.
-
-// Access keys (the letter after "&") carried twice among the window's visible
-// controls and its menu bar, or among one menu's items: "K: text, text".
+// What a keyboard or screen-reader user meets in a window. Access keys (the letter after "&") carried twice among
+// the window's visible controls and its menu bar, or among one menu's items: "K: text, text".
 std::vector<std::wstring> AccessKeyClashes(HWND window);
-// Visible controls a screen reader would announce without a name: buttons
-// and the icon strip without text, list view columns without a title.
+// Visible controls a screen reader would announce without a name: buttons and the icon strip without text, list
+// view columns without a title.
 std::vector<std::wstring> UnnamedControls(HWND window);
 // The control with the keyboard focus in the thread of this window.
 HWND FocusOf(HWND window);
-// A control the focus reached: where it was then, and whether it could be
-// seen there (visible, and not scrolled or placed out of its parents' view).
-struct FocusStop {
-    HWND control = nullptr;
-    RECT place{};
-    bool seen = false;
-};
-// The stops the focus makes as Tab is pressed, from the focused control,
-// until it comes back to one already visited.
+// A control the focus reached: where it was then, and whether it could be seen there (visible, and not scrolled or
+// placed out of its parents' view).
+struct FocusStop { HWND control = nullptr; RECT place{}; bool seen = false; };
+// The stops the focus makes as Tab is pressed, from the focused control, until it comes back to one already visited.
 std::vector<FocusStop> TabCycle(HWND window);
 
 }  // namespace orvane::e2e

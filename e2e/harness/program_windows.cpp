@@ -23,9 +23,8 @@ HWND FromMenu(const OrvaneProcess& orvane, HWND window, const wchar_t* caption, 
 // An item of the custom programs window's popup menu, by its access letter from the keyboard.
 HWND FromCustomPopup(const OrvaneProcess& orvane, HWND bar, WORD letter, const wchar_t* title) {
     HWND custom = FromMenu(orvane, bar, L"C&ustom programs", L"Custom programs");
-    if (!custom) return nullptr;
-    PressKeys(custom, {VK_SHIFT, VK_F10});
-    if (!WaitFor([&] { return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr; }, 5s)) return nullptr;
+    if (custom) PressKeys(custom, {VK_SHIFT, VK_F10});
+    if (!custom || !WaitFor([&] { return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr; }, 5s)) return nullptr;
     // The letter again while the menu stays open: one typed as it appears can miss it.
     for (int press = 0; press < 3 && FindProcessWindow(orvane.id(), kPopupMenuClass); ++press) {
         PressKeys(custom, {letter});
@@ -35,6 +34,9 @@ HWND FromCustomPopup(const OrvaneProcess& orvane, HWND bar, WORD letter, const w
 }
 
 HWND ListEditor(const OrvaneProcess& orvane, HWND bar) { return FromCustomPopup(orvane, bar, 'E', L"Custom programs ( *"); }
+
+// Opens the window titled so from the bar's menu item with this caption.
+#define FROM_MENU(caption, title) [](const OrvaneProcess& o, HWND bar) { return FromMenu(o, bar, caption, title); }
 
 // Esc in the window, then in each window it was opened from, down to the bar.
 bool EscapeToBar(const OrvaneProcess&, HWND window) {
@@ -62,44 +64,35 @@ bool LeaveWallpaper(const OrvaneProcess& orvane, HWND window) {
 
 // clang-format off
 const std::vector<ProgramWindow> kProgramWindows = {
-    {L"about", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"&About this program", L"About Orvane"); }, EscapeToBar},
-    {L"locations", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"&Location of programs", L"Location of programs"); }, EscapeToBar},
-    {L"your program", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"Load your program", L"Load your program"); }, EscapeToBar},
-    {L"menu font", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"Set me&nu font", L"Font"); }, EscapeToBar},
+    {L"about", FROM_MENU(L"&About this program", L"About Orvane"), EscapeToBar},
+    {L"locations", FROM_MENU(L"&Location of programs", L"Location of programs"), EscapeToBar},
+    {L"your program", FROM_MENU(L"Load your program", L"Load your program"), EscapeToBar},
+    {L"menu font", FROM_MENU(L"Set me&nu font", L"Font"), EscapeToBar},
     {L"input box", [](const OrvaneProcess& o, HWND bar) {
         HWND box = FromMenu(o, bar, L"Web interface U&RL", L"Orvane");
         return box && GetDlgItem(box, IDC_BOX_TEXT) ? box : nullptr; }, EscapeToBar},  // not a message box
-    {L"skin chooser", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"Change &skin", L"Change skin"); }, EscapeToBar},
+    {L"skin chooser", FROM_MENU(L"Change &skin", L"Change skin"), EscapeToBar},
     // The bar's clock item starts the suite's clock program; this window is the custom programs' one.
     {L"clock", [](const OrvaneProcess& o, HWND bar) {
         HWND custom = FromMenu(o, bar, L"C&ustom programs", L"Custom programs");
         if (custom) PressButton(custom, GetDlgCtrlID(FindWindowExW(custom, nullptr, L"Button", L"&Clock")));
         return custom ? WaitForDialogTitled(o.id(), L"Clock") : nullptr; }, EscapeToBar},
-    {L"custom programs", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"C&ustom programs", L"Custom programs"); }, EscapeToBar},
+    {L"custom programs", FROM_MENU(L"C&ustom programs", L"Custom programs"), EscapeToBar},
     {L"list editor", ListEditor, EscapeToBar},
     {L"entry", [](const OrvaneProcess& o, HWND bar) {
         HWND editor = ListEditor(o, bar);
         if (editor) PressButton(editor, IDC_GET_PROGRAM);
         return editor ? WaitForDialogTitled(o.id(), L"Program and startup folder") : nullptr; }, EscapeToBar},
-    {L"file information", [](const OrvaneProcess& o, HWND bar) {
-        return FromCustomPopup(o, bar, 'I', L"File information"); }, EscapeToBar},
-    {L"web list", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"Open &web list", L"Website list*"); }, EscapeToBar},
-    {L"wallpaper", [](const OrvaneProcess& o, HWND bar) {
-        return FromMenu(o, bar, L"Wa&llpaper", L"Wallpaper"); }, LeaveWallpaper},
+    {L"file information", [](const OrvaneProcess& o, HWND bar) { return FromCustomPopup(o, bar, 'I', L"File information"); },
+     EscapeToBar},
+    {L"web list", FROM_MENU(L"Open &web list", L"Website list*"), EscapeToBar},
+    {L"wallpaper", FROM_MENU(L"Wa&llpaper", L"Wallpaper"), LeaveWallpaper},
 };
 // clang-format on
 
 void PrepareForEveryWindow(const ProgramFolder& folder) {
     const std::wstring at = folder.path() + L"\\";
-    WriteBytes(at + L"Programs.lst",
-               CustomListFile({{"Notes", "C:\\windows\\notepad.exe", "C:\\windows"}, {"Probe", "C:\\probe.exe", ""}}));
+    WriteBytes(at + L"Programs.lst", CustomListFile({{"Notes", "C:\\windows\\notepad.exe", "C:\\windows"}, {"Probe", "C:\\probe.exe", ""}}));
     WriteBytes(at + L"Sites.lst", WebListFile({{"Alpha", "http://a", "1"}, {"Beta", "http://b", "0"}}));
     CopyInto(EnvironmentPath(L"ORVANE_PICTURES") + L"\\Wallpaper_Wide.png", folder.path());
     WriteBytes(folder.settingsFile(), SettingsText({{13, "480"}, {20, Utf8(folder.path())}, {38, "1"}, {39, "19200"}, {28, Utf8(at + L"Programs.lst")},

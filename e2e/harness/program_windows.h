@@ -1,6 +1,5 @@
-// Every window of orvane.exe, each opened and closed as a user would, for
-// tests and tools that go through them all, and the program folder in which
-// every one of them opens.
+// Every window of orvane.exe, each opened and closed as a user would, for tests and tools that go through them all,
+// and the program folder in which every one of them opens.
 #pragma once
 
 #include <windows.h>
@@ -15,28 +14,22 @@ namespace orvane::e2e {
 
 struct ProgramWindow {
     const wchar_t* name;
-    // Opens it from the bar, through the windows it is reached from; the
-    // window once it shows, else null.
+    // Opens it from the bar, through the windows it is reached from; the window once it shows, else null.
     HWND (*open)(const OrvaneProcess& orvane, HWND bar);
-    // Closes it the user's way, then the windows open() went through; true
-    // once all of them have gone.
+    // Closes it the user's way, then the windows open() went through; true once all of them have gone.
     bool (*close)(const OrvaneProcess& orvane, HWND window);
 };
 
-// The bar's dialogs, the skin chooser, the clock, the custom programs window
-// with its editor and their dialogs, the web list and the wallpaper. The
-// shell's folder dialog is the system's, not the program's, and is left out.
+// The bar's dialogs, the skin chooser, the clock, the custom programs window with its editor and their dialogs, the
+// web list and the wallpaper. The shell's folder dialog is the system's, not the program's, and is left out.
 extern const std::vector<ProgramWindow> kProgramWindows;
 
-// Writes the settings file, a custom programs list, a web list and a
-// wallpaper into the folder, so that every window of the table opens without
-// a message.
+// Writes the settings file, a custom programs list, a web list and a wallpaper into the folder, so that every window
+// of the table opens without a message.
 void PrepareForEveryWindow(const ProgramFolder& folder);
 
 // One line of a custom programs list.
-struct CustomEntry {
-    std::string name, program, folder;
-};
+struct CustomEntry { std::string name, program, folder; };
 // The 192 lines of a custom programs list file: 64 names, 64 programs, 64 folders.
 std::string CustomListFile(const std::vector<CustomEntry>& entries);
 // A web list file: three lines per row (name, address, check), "***", the groups, a final empty line.

@@ -21,22 +21,20 @@ TEST(ClockWindow, ShowsDateAndTimeAndAnyKeyOrClickClosesIt) {
                                             {VK_DOWN, 0}, {0, IDC_CLOCK_TIME}, {0, 0}};
     for (const auto& [key, label] : closers) {
         SYSTEMTIME before{}, after{};
-        std::wstring date, time, seconds;
+        std::wstring date, time, seconds;  // as shown
         bool closed = false;
         std::thread driver([&] {
             HWND dialog = nullptr;
             WaitFor([&] { return (dialog = FindWindowW(L"#32770", L"Clock")) && IsWindowVisible(dialog); }, 10s);
             GetLocalTime(&before);
-            date = TextOf(GetDlgItem(dialog, IDC_CLOCK_DATE));
-            time = TextOf(GetDlgItem(dialog, IDC_CLOCK_TIME));
+            date = TextOf(GetDlgItem(dialog, IDC_CLOCK_DATE)), time = TextOf(GetDlgItem(dialog, IDC_CLOCK_TIME));
             seconds = TextOf(GetDlgItem(dialog, IDC_CLOCK_SECONDS));
             GetLocalTime(&after);
             // Keys are posted to the focus, the key catcher, so they pass the dialog manager as typed keys do.
             RECT place{};
             GetWindowRect(label ? GetDlgItem(dialog, label) : dialog, &place);
             key ? void(PostMessageW(GetDlgItem(dialog, IDC_CLOCK_KEYS), WM_KEYDOWN, key, 1)) : e2e::ClickAt({(place.left + place.right) / 2, label ? (place.top + place.bottom) / 2 : place.bottom - 4});
-            closed = WaitFor([&] { return !IsWindow(dialog); }, 3s);
-            if (!closed) PostMessageW(dialog, WM_CLOSE, 0, 0);  // so the test goes on
+            if (!(closed = WaitFor([&] { return !IsWindow(dialog); }, 3s))) PostMessageW(dialog, WM_CLOSE, 0, 0);  // so the test goes on
         });
         ShowClockWindow(nullptr);
         driver.join();

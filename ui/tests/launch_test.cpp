@@ -1,9 +1,9 @@
-// Real launches under Wine, recorded by the probe: what only the real system
-// shows of documents, running tools and the file explorer. Command lines are
-// the unit tests' business, menu commands the end-to-end tests'.
+// Real launches under Wine, recorded by the probe: what only the real system shows of documents, running tools and
+// the file explorer. Command lines are the unit tests' business, menu commands the end-to-end tests'.
 #include <gtest/gtest.h>
 
 #include "app.h"
+#include "handles.h"
 #include "launch.h"
 #include "win32_system.h"
 #include "win_support.h"
@@ -14,8 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 using namespace testsupport;
 
-// The real system, except that messages are recorded instead of shown, so a
-// test can run launches that report without a user to answer them.
+// The real system, with messages recorded instead of shown, so launches that report need no user to answer them.
 struct RecordingSystem : Win32System {
     MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon, MessageButtons) override {
         messages.push_back(caption + L": " + text);
@@ -28,8 +27,7 @@ class RealLaunch : public ::testing::Test {
 protected:
     void SetUp() override {
         CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder);
-        GetCurrentDirectoryW(MAX_PATH, previousFolder);
-        SetCurrentDirectoryW(current.c_str());
+        GetCurrentDirectoryW(MAX_PATH, previousFolder), SetCurrentDirectoryW(current.c_str());
     }
     void TearDown() override { SetCurrentDirectoryW(previousFolder); }
 
@@ -54,8 +52,7 @@ TEST_F(RealLaunch, SuiteProgramOpensADocumentOfTheCurrentFolderQuotedForItsBlank
     ASSERT_EQ(started.size(), 1u);
     EXPECT_EQ(started[0].commandLine, Utf8(program + L" \"" + current + L"\\n\u00f6tes b.txt\""));
     EXPECT_EQ(started[0].folder, Utf8(current));
-    EXPECT_TRUE(sys.messages.empty());
-    EXPECT_NE(app.LastLaunchResult, 0);
+    EXPECT_TRUE(sys.messages.empty() && app.LastLaunchResult != 0);
 }
 
 TEST_F(RealLaunch, RunningSuiteProgramIsBroughtForwardNotStartedTwice) {
@@ -65,16 +62,12 @@ TEST_F(RealLaunch, RunningSuiteProgramIsBroughtForwardNotStartedTwice) {
     HWND tool = nullptr;
     // Shown, not just created: only a visible window counts as running.
     ASSERT_TRUE(WaitFor([&] { return (tool = FindWindowW(L"Static", L"probe")) && IsWindowVisible(tool); }, 10s));
-    HWND other = CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, nullptr,
-                               nullptr, nullptr, nullptr);
-    SetForegroundWindow(other);
+    const UniqueWindow other(CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, 0, 0, 0, 0));
+    SetForegroundWindow(other.get());
 
     LaunchSuiteProgram(app, program, document);
     EXPECT_EQ(sys.messages, std::vector<std::wstring>{L"Orvane: Program running already"});
-    EXPECT_EQ(app.LastLaunchResult, 1);
-    EXPECT_EQ(records(false).size(), 1u);
-    EXPECT_EQ(GetForegroundWindow(), tool);
-    DestroyWindow(other);
+    EXPECT_EQ(std::tuple(app.LastLaunchResult, records(false).size(), GetForegroundWindow()), std::tuple(1, 1u, tool));
     PostMessageW(tool, WM_CLOSE, 0, 0);
     WaitFor([&] { return !IsWindow(tool); }, 5s);
 }

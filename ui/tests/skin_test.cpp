@@ -1,10 +1,11 @@
-// Skins on real bitmaps, and the skin chooser used from a second thread as a user would with the keyboard.
+// The skin chooser on a real folder, used from a second thread as a user would with the keyboard.
 #include <gtest/gtest.h>
 
 #include <thread>
 
 #include "app.h"
 #include "dialogs.h"
+#include "orvane_process.h"
 #include "resource.h"
 #include "skin.h"
 #include "win32_system.h"
@@ -16,12 +17,6 @@ namespace {
 using namespace testsupport;
 using namespace std::chrono_literals;
 
-TEST(SkinColours, AreTheAverageOfEveryRow) {
-    const std::uint32_t pixels[] = {0xFFFFFF, 0xFFFFFF, 0, 0};  // a white row and a black one
-    const UniqueBitmap bitmap(CreateBitmap(2, 2, 1, 32, pixels));
-    EXPECT_EQ(ColoursOfBitmap(bitmap.get())->back, 0x808080u);
-}
-
 TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableChoice) {
     const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), L"skin chooser") + L"\\";
     CopyInto(EnvironmentPath(L"ORVANE_SKINS") + L"\\Skin_Slate.bmp", folder);
@@ -29,8 +24,7 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
     CreateDirectoryW((folder + L"Skin_Folder.bmp").c_str(), nullptr);
     Win32System sys;
     App app(sys);
-    app.settings.SkinFile = L"C:\\elsewhere\\skin_slate.BMP";
-    app.settings.SkinFolder = folder;
+    app.settings.SkinFile = L"C:\\elsewhere\\skin_slate.BMP", app.settings.SkinFolder = folder;
     std::vector<std::wstring> applied;
     int adjusted = 0;
 
@@ -40,10 +34,7 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
         HWND files = GetDlgItem(dialog, IDC_SKIN_FILES);
         EXPECT_EQ(SendMessageW(files, LB_GETCOUNT, 0, 0), 3);
         EXPECT_EQ(SendMessageW(files, LB_GETCURSEL, 0, 0), 2) << "after Skin_Alba and Skin_Bad";
-        GUITHREADINFO focus{};
-        focus.cbSize = sizeof focus;
-        const DWORD thread = GetWindowThreadProcessId(dialog, nullptr);
-        EXPECT_TRUE(WaitFor([&] { return GetGUIThreadInfo(thread, &focus) && focus.hwndFocus == files; }, 10s));
+        EXPECT_TRUE(WaitFor([&] { return e2e::FocusOf(dialog) == files; }, 10s));
         DeleteFileW((folder + L"Skin_Alba.bmp").c_str());  // listed, then gone: not applied
         for (WORD key : {VK_UP, VK_RETURN, VK_UP, VK_RETURN, VK_ESCAPE}) {
             if (key == VK_ESCAPE) PostMessageW(GetDlgItem(dialog, IDC_ADJUST_SKIN), BM_CLICK, 0, 0);

@@ -40,8 +40,7 @@ TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
         EXPECT_EQ(sys.fileExists(path), isFile) << Utf8(path);
         EXPECT_EQ(sys.pathExists(path), exists) << Utf8(path);
     }
-    EXPECT_EQ(sys.fileFacts(file)->size, 1u);
-    EXPECT_EQ(sys.fileFacts(file)->lastChange.year, sys.now().year);
+    EXPECT_EQ(std::pair(sys.fileFacts(file)->size, sys.fileFacts(file)->lastChange.year), std::pair(std::uint64_t(1), sys.now().year));
     EXPECT_FALSE(sys.fileFacts(folder).has_value());
 }
 
@@ -51,12 +50,10 @@ TEST_F(RealSystem, BytesReadBackExactlyAndALockedFileIsNeitherReadNorWrittenNorD
     ASSERT_EQ(sys.writeFile(file, bytes), 0);
     EXPECT_EQ(sys.readFile(file, 1 << 20), bytes);
     EXPECT_EQ(sys.readFile(file, 3), "0\r\n");
-    ASSERT_EQ(sys.writeFile(file, "keep me"), 0);
-    EXPECT_EQ(ReadBytes(file), "keep me") << "rewritten from scratch";
+    EXPECT_EQ(std::pair(sys.writeFile(file, "keep me"), ReadBytes(file)), std::pair(0, std::string("keep me"))) << "rewritten whole";
 
     UniqueFile lock(CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    ASSERT_TRUE(lock);
-    EXPECT_TRUE(sys.fileExists(file));
+    ASSERT_TRUE(lock && sys.fileExists(file));
     EXPECT_FALSE(sys.readFile(file, 100).has_value());
     EXPECT_EQ(sys.writeFile(file, "lost"), 70);
     EXPECT_FALSE(sys.lastErrorDescription().empty());
@@ -90,11 +87,11 @@ TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStrings) {
 TEST_F(RealSystem, ProgramFilesAndDocumentsFoldersAreTheSystems) {
     App app(sys);
     FindSystemFolders(app);
-    wchar_t expected[MAX_PATH];
-    ASSERT_EQ(SHGetFolderPathW(nullptr, CSIDL_PROGRAM_FILES, nullptr, 0, expected), S_OK);
-    EXPECT_EQ(app.ProgramFilesFolder, std::wstring(expected) + L"\\");
-    ASSERT_EQ(SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, 0, expected), S_OK);
-    EXPECT_EQ(app.DocumentsFolder, std::wstring(expected) + L"\\");
+    for (auto [csidl, found] : {std::pair(CSIDL_PROGRAM_FILES, &app.ProgramFilesFolder), std::pair(CSIDL_PERSONAL, &app.DocumentsFolder)}) {
+        wchar_t expected[MAX_PATH];
+        ASSERT_EQ(SHGetFolderPathW(nullptr, csidl, nullptr, 0, expected), S_OK);
+        EXPECT_EQ(*found, std::wstring(expected) + L"\\");
+    }
 }
 
 TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
@@ -103,9 +100,8 @@ TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
     PostQuitMessage(3);
     sys.processPendingEvents();
     EXPECT_FALSE(IsWindow(window)) << "the pending close ran";
-    MSG message;
-    ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-    EXPECT_EQ(message.wParam, 3u);
+    MSG message{};
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) && message.wParam == 3u);
     // A key typed meanwhile reaches the dialog's own keys: Esc cancels it.
     static bool cancelled = false;
     HWND dialog = CreateDialogParamW(nullptr, MAKEINTRESOURCEW(IDD_YOUR_PROGRAM), nullptr, [](HWND, UINT m, WPARAM w, LPARAM) -> INT_PTR {
@@ -120,9 +116,7 @@ TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
 TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
     constexpr DWORD kShown = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
     const auto make = [](const wchar_t* title, DWORD style, DWORD exStyle = 0, HWND parent = nullptr) {
-        return UniqueWindow(
-            CreateWindowExW(exStyle, L"STATIC", title, style, 10, 10, 120, 60, parent, nullptr, nullptr, nullptr));
-    };
+        return UniqueWindow(CreateWindowExW(exStyle, L"STATIC", title, style, 10, 10, 120, 60, parent, 0, 0, 0)); };
     const UniqueWindow bar = make(L"Orvane", kShown), plain = make(L"Listed plain", kShown),
                        lower = make(L"Listed lower", kShown);
     const UniqueWindow others[] = {
@@ -130,15 +124,13 @@ TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
         make(L"Child", WS_CHILD | WS_VISIBLE, 0, plain.get()), make(L"Owned", kShown, 0, plain.get()),
         make(L"Owned popup app window", WS_POPUP | WS_VISIBLE, WS_EX_APPWINDOW, plain.get()),
         make(L"Tool", kShown, WS_EX_TOOLWINDOW), make(L"", kShown)};
-    ASSERT_TRUE(bar && plain && lower);
-    for (const UniqueWindow& w : others) ASSERT_TRUE(w);
+    ASSERT_TRUE(bar && plain && lower && std::ranges::all_of(others, [](const UniqueWindow& w) { return bool(w); }));
     SetWindowPos(plain.get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     SetWindowPos(lower.get(), plain.get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 
     Win32System sys;
     App app(sys);
-    app.MainWindowRef = ToRef(bar.get());
-    RefreshWindowList(app);
+    app.MainWindowRef = ToRef(bar.get()), RefreshWindowList(app);
     std::vector<std::wstring> ours;  // in list order
     for (const WindowListEntry& entry : app.windowList) {
         DWORD process = 0;
