@@ -41,6 +41,12 @@ inline std::string EncodeWindows1252(const std::wstring& text) {
 class FakeSystem : public System {
     using S = const std::wstring&;
     void log(const std::wstring& entry, long long n) { journal.push_back(entry + L" " + std::to_wstring(n)); }
+    template <class T> static T next(std::vector<T>& queue, T otherwise) {  // the first scripted answer, consumed
+        if (queue.empty()) return otherwise;
+        const T answer = queue.front();
+        queue.erase(queue.begin());
+        return answer;
+    }
 
 public:
     void addFile(S path, const std::string& bytes = "x") { files[path] = bytes; }
@@ -52,14 +58,12 @@ public:
     std::optional<long long> nextTask = 100;  // what every start returns
     bool shellAccepts = true;
     std::vector<TopLevelWindow> windows;
-    std::map<WindowRef, WindowRef> zOrderAbove;
     std::map<std::wstring, std::wstring> registry;  // "subkey\\value" under HKLM
     std::map<int, std::wstring> specialFolders;
     OsVersion version{6, 1};
     std::vector<std::optional<std::wstring>> fileAnswers;  // consumed in order; cancelled when empty
     std::vector<MessageAnswer> answers;                    // consumed in order; Ok when empty
     DateTime fileTime{2025, 3, 4, 2, 17, 30, 0};
-    std::wstring clipboard;
 
     // What happened, in order. Shell verbs return 42.
     std::vector<std::wstring> journal;
@@ -110,7 +114,7 @@ public:
     }
     std::vector<TopLevelWindow> topLevelWindows() override { return windows; }
     bool bringToForeground(WindowRef window) override { log(L"foreground", window); return window != 0; }
-    WindowRef windowAbove(WindowRef window) override { return zOrderAbove.count(window) ? zOrderAbove[window] : 0; }
+    WindowRef windowAbove(WindowRef) override { return 0; }
     void restoreIfMinimised(WindowRef window) override { log(L"restore", window); }
     std::optional<std::wstring> registryString(RegistryRoot root, S subKey, S valueName) override {
         const auto it = registry.find(subKey + L"\\" + valueName);
@@ -132,19 +136,13 @@ public:
     MessageAnswer showMessage(S text, S caption, MessageIcon i, MessageButtons b) override {
         journal.push_back(L"message " + text);
         messages.push_back({text, caption, i, b});
-        if (answers.empty()) return MessageAnswer::Ok;
-        const MessageAnswer answer = answers.front();
-        answers.erase(answers.begin());
-        return answer;
+        return next(answers, MessageAnswer::Ok);
     }
     std::optional<std::wstring> chooseFile(const FileRequest& request) override {
         fileRequests.push_back(request);
-        if (fileAnswers.empty()) return std::nullopt;
-        const auto answer = fileAnswers.front();
-        fileAnswers.erase(fileAnswers.begin());
-        return answer;
+        return next(fileAnswers, std::optional<std::wstring>());
     }
-    bool setClipboardText(S text) override { clipboard = text; return true; }
+    bool setClipboardText(S) override { return true; }
     void beep() override { journal.push_back(L"beep"); }
     void showWaitCursor() override { journal.push_back(L"wait"); }
     void restoreCursor() override { journal.push_back(L"cursor"); }
