@@ -25,7 +25,6 @@ using Lines = std::vector<std::wstring>;
 const std::wstring kIni = L"C:\\Orvane\\Orvane.ini";
 const std::wstring kNotFound = L"message Cannot locate the following program/file:\r\n\r\n";
 const std::wstring kReason = L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n";
-constexpr std::uint32_t kTool = 0x80, kApp = 0x40000;  // WS_EX_TOOLWINDOW, WS_EX_APPWINDOW
 // Written independently of the program's own table: the lines that hold text.
 const std::set<int> kTextLines = {3, 4, 5, 6, 14, 15, 16, 17, 18, 19, 20, 21, 28, 29, 30, 32, 33, 34, 35, 36};
 
@@ -78,14 +77,11 @@ protected:
     const std::string& save() { SaveSettings(app); return sys.files[kIni]; }
     // Starts the tool with the document (kept for a look afterwards); the program path as located.
     std::wstring launch(std::wstring program, std::wstring doc = L"") {
-        LaunchSuiteProgram(app, program, document = doc);
-        return program;
-    }
+        LaunchSuiteProgram(app, program, document = doc); return program; }
     // A fresh start on a settings file with these lines, the others initial; no file when none are given.
     LoadOutcome start(const std::map<int, std::string>& lines = {}) {
         if (!lines.empty()) sys.addFile(kIni, File(false, lines));
-        app.settings = {};
-        host.calls.clear();
+        app.settings = {}; host.calls.clear();
         return LoadMainWindow(app, host, state);
     }
     testing::FakeSystem sys;
@@ -97,9 +93,7 @@ protected:
 
 // A locked file (neither read nor overwritten): the e2e BadSettings test.
 TEST_F(Core, MissingFileLeavesInitialValuesAndOnlyTheOldRuntimesErrorMinusOneIsReportedOnSaving) {
-    LoadSettings(app);
-    app.SettingsFilePath = kIni;
-    LoadSettings(app);
+    LoadSettings(app); app.SettingsFilePath = kIni; LoadSettings(app);
     const auto& m = sys.messages.at(0);
     EXPECT_EQ(std::tie(m.caption, m.icon, m.buttons), std::tuple(L"Orvane", MessageIcon::Critical, MessageButtons::Ok));
     EXPECT_EQ(app.settings, Settings{});
@@ -144,8 +138,7 @@ TEST_F(Core, LineValuesAsReadAndWrittenBack) {
         {1, "99999999999", "10"}, {13, "1e400", "130"}, {18, "  C:\\x.exe  ", "  C:\\x.exe  "},
     };
     for (const auto& [line, read, written] : cases) {
-        load(File(true));  // every value its own before
-        load(File(true, {{line, read}}));
+        load(File(true)); load(File(true, {{line, read}}));  // every value its own before
         EXPECT_EQ(save(), File(true, {{line, written}})) << read;
     }
 }
@@ -200,8 +193,7 @@ TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlankAndTheProgramI
         {L"C:\\Work", L"\"C:\\My Docs\\a.vrt\"", L"C:\\Suite\\Tool.exe \"C:\\My Docs\\a.vrt\""},
     };
     for (const auto& [current, doc, command] : cases) {
-        sys.current = current;
-        launch(program, doc);
+        sys.current = current; launch(program, doc);
         EXPECT_EQ(sys.started.back().commandLine, command) << doc;
     }
     EXPECT_EQ(document, L"\"C:\\My Docs\\a.vrt\"") << "unquoted, then quoted again for its blank";
@@ -217,31 +209,17 @@ TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlankAndTheProgramI
     sys.journal.clear(), launch(stored, L"a.txt");
     EXPECT_EQ(sys.journal, (Lines{kNotFound + stored + L"\r\n\r\n", L"cursor"})) << "found nowhere";
     for (const std::wstring found : {L"b:\\Orvane\\Tool.exe", L"b:\\Drive_G\\T\\Tool.exe", L"`:\\Drive_G\\T\\Tool.exe",
-                                     L"D:\\Drive_G\\T\\Tool.exe", L"C:\\Drive_G\\T\\Tool.exe",
-                                     L"C:\\TellmarkSet\\Tool.exe", stored.c_str()}) {
+                                     L"C:\\Drive_G\\T\\Tool.exe", L"C:\\TellmarkSet\\Tool.exe", stored.c_str()}) {
         sys.addFile(found);
         EXPECT_EQ(launch(stored), found);
         EXPECT_EQ(sys.started.back().commandLine, found);
     }
 }
 
-TEST_F(Core, WindowListKeepsOnlyTheWindowsATaskBarWouldShowInTheirOrderAndARunningSuiteProgramIsBroughtForward) {
-    // handle, visible, parent, owner, extended style, title
-    sys.windows = {{2, true, false, false, 0, L"Editor"},  {1, true, false, false, 0, L"Orvane"},
-                   {3, false, false, false, 0, L"Hidden"},  {4, true, true, false, 0, L"Child"},
-                   {5, true, false, true, 0, L"Owned"},     {6, true, false, true, kApp, L"Owned app"},
-                   {7, true, false, false, kTool, L"Tool"}, {8, true, false, false, kTool | kApp, L"Tool app"},
-                   {9, true, false, true, kTool | kApp, L"Owned tool app"},
-                   {10, true, false, false, 0, L""},        {11, true, false, false, 0, L"Editor"}};
-    app.windowList = {{L"stale", 99}};
-    RefreshWindowList(app);
-    std::vector<std::pair<std::wstring, WindowRef>> listed;
-    for (const auto& entry : app.windowList) listed.emplace_back(entry.title, entry.handle);
-    EXPECT_EQ(listed, (decltype(listed){{L"Editor", 2}, {L"Owned app", 6}, {L"Owned tool app", 9}, {L"Editor", 11}}));
-    EXPECT_EQ(FindListedWindow(app.windowList, L"Editor"), 2u);
-    EXPECT_EQ(FindListedWindow(app.windowList, L"editor"), 0u);
-    // A running suite program is brought forward by its exact title.
+// Which windows a task bar shows: the Win32 RealWindowList test.
+TEST_F(Core, ARunningSuiteProgramIsBroughtForwardByTheFirstWindowOfItsExactTitle) {
     sys.addFile(L"C:\\Suite\\Tool.exe");
+    // handle, visible, parent, owner, extended style, title
     sys.windows = {{5, true, false, false, 0, L"tool"}, {6, true, false, false, 0, L"Tool.exe"},
                    {7, true, false, false, 0, L"Tool"}, {8, true, false, false, 0, L"Tool"}};
     launch(L"C:\\Suite\\Tool.exe", L"a.txt");
@@ -307,8 +285,7 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
     for (const auto& [major, minor, name] : names) EXPECT_EQ(OsVersionName(major, minor), name) << major << '.' << minor;
     FindSystemFolders(app);
     EXPECT_EQ(app.ProgramFilesFolder + L"|" + app.DocumentsFolder, L"\\|\\") << "no registry value and no C:";
-    sys.folders.insert(L"C:\\");
-    FindSystemFolders(app);
+    sys.folders.insert(L"C:\\"); FindSystemFolders(app);
     EXPECT_EQ(app.ProgramFilesFolder, L"C:\\");
     sys.registry[L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\ProgramFilesDir"] = L"C:\\Program Files";
     sys.specialFolders[5] = std::wstring(L"C:\\users\\ann\\Documents\0\0\0", 26);  // cut at the first NUL
@@ -317,16 +294,14 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
     // Deleting skips empty and missing names; a file error names the operation and the reason.
     sys.addFile(L"C:\\x.txt");
     for (const wchar_t* file : {L"", L"C:\\y.txt", L"C:\\x.txt"}) DeleteFileIfPresent(app, file);
-    ReportFileError(app, L"C:\\a.lst", L"");
-    ReportFileError(app, L"   ");
+    ReportFileError(app, L"C:\\a.lst", L""); ReportFileError(app, L"   ");
     EXPECT_EQ(sys.journal, (Lines{L"delete C:\\x.txt", L"beep",
                                   L"message Cannot delete this file :\r\n\r\nC:\\a.lst" + kReason + L"(unknown)\r\n",
                                   L"beep", L"message Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" +
                                       kReason + L"(unknown)\r\n"}));
     EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
     EXPECT_TRUE(sys.files.empty());
-    app.OsVersionName = L"before", sys.version = {10, 0};
-    DetectOsVersion(app);
+    app.OsVersionName = L"before", sys.version = {10, 0}; DetectOsVersion(app);
     EXPECT_EQ(std::tuple(app.OsVersionCode, app.OsMinorVersion, app.OsVersionName), std::tuple(10, 0, L"before"))
         << "a version without a label keeps the old name";
 }
@@ -388,12 +363,10 @@ TEST_F(Core, OfficeProgramsTheUserLocationWinsThenTheStandardFoldersAndTheSettin
     EXPECT_EQ(LocateOfficeProgram(app, L"winword.exe"), office + L"Office\\winword.exe") << "exact case only";
     EXPECT_EQ(LocateOfficeProgram(app, L"EXCEL.EXE"), office + L"Office\\EXCEL.EXE") << "Word's location is Word's";
     // "Same for all" needs Word's file, then puts the other programs beside it.
-    s.ExcelPath = L"old";
-    s.WordPath = L"D:\\Office\\WINWORD.EXE";
+    s.ExcelPath = L"old"; s.WordPath = L"D:\\Office\\WINWORD.EXE";
     EXPECT_FALSE(SameForAll(app));
     EXPECT_EQ(sys.messages.at(0).text + L"|" + s.ExcelPath, L"Location for MS Word invalid or empty.|old");
-    sys.addFile(s.WordPath);
-    EXPECT_TRUE(SameForAll(app));
+    sys.addFile(s.WordPath); EXPECT_TRUE(SameForAll(app));
     EXPECT_EQ(s.ExcelPath + L"|" + s.PowerPointPath + L"|" + s.PublisherPath + L"|" + s.AccessPath,
               L"D:\\Office\\EXCEL.EXE|D:\\Office\\POWERPNT.EXE|D:\\Office\\MSPUB.EXE|D:\\Office\\MSACCESS.EXE");
     // Your program starts once it exists (its missing message: e2e).
