@@ -43,9 +43,7 @@ class FakeSystem : public System {
     void log(const std::wstring& entry, long long n) { journal.push_back(entry + L" " + std::to_wstring(n)); }
     template <class T> static T next(std::vector<T>& queue, T otherwise) {  // the first scripted answer, consumed
         if (queue.empty()) return otherwise;
-        const T answer = queue.front();
-        queue.erase(queue.begin());
-        return answer;
+        const T answer = queue.front(); queue.erase(queue.begin()); return answer;
     }
 
 public:
@@ -80,17 +78,14 @@ public:
     FileError writeFile(S path, const std::string& bytes) override {
         journal.push_back(L"write " + path);
         if (createError != 0 || lockedFiles.count(path)) return createError ? createError : 70;
-        files[path] = bytes;
-        return 0;
+        files[path] = bytes; return 0;
     }
     bool deleteFile(S path) override {
-        journal.push_back(L"delete " + path);
-        return !lockedFiles.count(path) && files.erase(path);
+        journal.push_back(L"delete " + path); return !lockedFiles.count(path) && files.erase(path);
     }
     std::wstring currentFolder() override { return current; }
     bool setCurrentFolder(S folder) override {
-        journal.push_back(L"cd " + folder);
-        return folders.count(folder) && (current = folder, true);
+        journal.push_back(L"cd " + folder); return folders.count(folder) && (current = folder, true);
     }
     std::optional<FileFacts> fileFacts(S path) override {
         return fileExists(path) ? std::optional(FileFacts{files[path].size(), fileTime}) : std::nullopt;
@@ -100,13 +95,10 @@ public:
     std::string toAnsi(S text) override { return EncodeWindows1252(text); }
     bool shellExecute(const ShellExecuteRequest& r) override {
         journal.push_back(L"shellExecute " + r.verb + L" " + r.file);
-        shellRequests.push_back(r);
-        return shellAccepts;
+        shellRequests.push_back(r); return shellAccepts;
     }
     std::optional<long long> startCommandLine(S commandLine, int showCode) override {
-        journal.push_back(L"start " + commandLine);
-        started.push_back({commandLine, showCode});
-        return nextTask;
+        journal.push_back(L"start " + commandLine); started.push_back({commandLine, showCode}); return nextTask;
     }
     long long shellVerb(WindowRef owner, S verb, S file, S directory, int showCode) override {
         log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show", showCode);
@@ -134,13 +126,11 @@ public:
     }
     std::wstring thousandsSeparator() override { return L","; }
     MessageAnswer showMessage(S text, S caption, MessageIcon i, MessageButtons b) override {
-        journal.push_back(L"message " + text);
-        messages.push_back({text, caption, i, b});
+        journal.push_back(L"message " + text); messages.push_back({text, caption, i, b});
         return next(answers, MessageAnswer::Ok);
     }
     std::optional<std::wstring> chooseFile(const FileRequest& request) override {
-        fileRequests.push_back(request);
-        return next(fileAnswers, std::optional<std::wstring>());
+        fileRequests.push_back(request); return next(fileAnswers, std::optional<std::wstring>());
     }
     bool setClipboardText(S) override { return true; }
     void beep() override { journal.push_back(L"beep"); }
