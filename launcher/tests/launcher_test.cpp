@@ -62,20 +62,15 @@ struct Bar : MainWindowRoutines {
     }
 
     std::wstring inputBox(const std::wstring&, const std::wstring& preset) override { calls.push_back(L"input " + preset); return typed; }
-    void showAbout() override { calls.push_back(L"about"); }
-    void showProgramLocations() override { calls.push_back(L"locations"); }
-    void showYourProgram() override { calls.push_back(L"your program"); }
-    void toggleDesktop() override { calls.push_back(L"desktop"); }
-    void exitProgram() override { calls.push_back(L"exit"); }
-    void useScreenWidth() override { calls.push_back(L"width"); }
-    void changeIconSize(int step) override { calls.push_back(L"size " + std::to_wstring(step)); }
-    void toggleIconStrip() override { calls.push_back(L"icons"); }
-    void toggleTopBottom() override { calls.push_back(L"top/bottom"); }
-    void chooseSkin() override { calls.push_back(L"skin"); }
-    void chooseMenuFont() override { calls.push_back(L"font"); }
-    void showCustomPrograms() override { calls.push_back(L"custom programs"); }
-    void showWebList() override { calls.push_back(L"web list"); }
-    void showWallpaper() override { calls.push_back(L"wallpaper"); }
+    void call(const std::wstring& name) { calls.push_back(name); }
+    void showAbout() override { call(L"about"); } void showProgramLocations() override { call(L"locations"); }
+    void showYourProgram() override { call(L"your program"); } void toggleDesktop() override { call(L"desktop"); }
+    void exitProgram() override { call(L"exit"); } void useScreenWidth() override { call(L"width"); }
+    void changeIconSize(int step) override { call(L"size " + std::to_wstring(step)); }
+    void toggleIconStrip() override { call(L"icons"); } void chooseSkin() override { call(L"skin"); }
+    void toggleTopBottom() override { call(L"top/bottom"); } void chooseMenuFont() override { call(L"font"); }
+    void showCustomPrograms() override { call(L"custom programs"); }
+    void showWebList() override { call(L"web list"); } void showWallpaper() override { call(L"wallpaper"); }
 
     testing::FakeSystem sys;
     App app{sys};
@@ -90,7 +85,6 @@ TEST(Commands, StartWhatTheirCaptionsSay) {
     const std::wstring missing = L"Cannot locate the following program/file:\r\n\r\n";
     const struct { const wchar_t* caption; Given setup; std::wstring outcome; } cases[] = {
         {L"&File manager", {nullptr, L"", L"C:\\P\\TS_Files.exe"}, L"Open C:\\P\\TS_Files.exe [] in C:\\P -1"},
-        {L"Sho&w clock", {}, L"Open C:\\P\\TS_Clock.exe [] in C:\\P -1"},
         {L"Load &Deadlines file", {&S::DeadlinesFile, L"G:\\a.VRT", L"G:\\a.VRT"}, L"Open C:\\P\\TS_Outliner.exe [G:\\a.VRT] in C:\\P -1"},
         {L"Load Addr&esses file", {&S::AddressesFile, L"G:\\a.vrt", L"D:\\Drive_G\\a.vrt"},
          L"Open C:\\P\\TS_Grid.exe [D:\\Drive_G\\a.vrt] in C:\\P -1"},
@@ -106,8 +100,7 @@ TEST(Commands, StartWhatTheirCaptionsSay) {
 
 // The prompt and the browser opened: the e2e OfficeProgramsAndWebmail test; a cancelled question: the table above.
 TEST(Commands, WebmailTypedWithoutABrowserIsKeptAndItsStartFailsQuietly) {
-    Bar bar;
-    bar.typed = L"https://mail.example.org/?a b";
+    Bar bar; bar.typed = L"https://mail.example.org/?a b";
     EXPECT_EQ(bar.outcome(L"Web interface U&RL", {}), L"input ") << "nothing shown or started after the question";
     EXPECT_EQ(std::pair(bar.app.settings.WebmailUrl, bar.app.LastLaunchResult), std::pair(bar.typed, std::int16_t(0)));
 }
@@ -118,8 +111,7 @@ TEST(Commands, IconsRunTheirCommandsUnderTheWaitCursorAndWebmailWithoutAsking) {
         {9, {&S::CustomBrowser, L"C:\\W\\b.exe", L"C:\\W\\b.exe"}, L"start C:\\W\\b.exe https://mail.example.org"},
         {0, {}, L"Open C:\\P\\TellmarkSet.exe [] in C:\\P -1"}, {6, {}, L"desktop"}, {26, {}, L"events"}};
     for (const auto& c : cases) {
-        Bar bar;
-        bar.app.settings.WebmailUrl = L"https://mail.example.org";
+        Bar bar; bar.app.settings.WebmailUrl = L"https://mail.example.org";
         EXPECT_EQ(bar.outcome(nullptr, c.setup, c.icon), c.outcome) << c.icon;
         const auto& journal = bar.sys.journal;
         EXPECT_EQ(journal.front() + journal.end()[-2] + journal.back(), L"waitcursorevents") << c.icon;
