@@ -40,9 +40,8 @@ protected:
 
 TEST_F(Custom, SavingWritesTheThreeSectionsOf64LinesAndClearsUnnamedEntriesInMemoryToo) {
     table = Filled({0, 5, 63});
-    table.DisplayNames[7] = L"   ";  // blanks only: kept as written, but no program or folder
-    table.ProgramPaths[7] = L"C:\\gone.exe";
-    table.StartupFolders[9] = L"C:\\orphan";
+    // Blanks only: kept as written, but no program or folder.
+    table.DisplayNames[7] = L"   "; table.ProgramPaths[7] = L"C:\\gone.exe"; table.StartupFolders[9] = L"C:\\orphan";
     sys.addFile(kList, std::string(5000, 'x'));  // a longer old file leaves no tail
     SaveCustomList(app, table);
     const auto lines = Lines(sys.files[kList]);
@@ -60,8 +59,7 @@ TEST_F(Custom, ReadingShortOddAndUnreadableFilesAndSwappingProgramFilesFolders) 
     for (int i = 1; i <= 100; ++i) hundred.append("L").append(std::to_string(i)).append("\r\n");
     // The content of the list file (none: no file), read from the given path, the file locked or not.
     const auto load = [&](const std::string& content, const std::wstring& listFile = kList, bool locked = false) {
-        sys = FakeSystem();
-        app.settings.CustomListFile = listFile;
+        sys = FakeSystem(); app.settings.CustomListFile = listFile;
         if (!content.empty() || locked) sys.addFile(kList, content);
         if (locked) sys.lockedFiles.insert(kList);
         table = Filled({3});
@@ -84,8 +82,7 @@ TEST_F(Custom, ReadingShortOddAndUnreadableFilesAndSwappingProgramFilesFolders) 
         EXPECT_EQ(sys.messages[0].text, L"Cannot locate the following program/file:\r\n\r\n" + std::wstring(shown) + L"\r\n\r\n");
     }
     // Found in a "Drive_" folder, the list keeps that path; missing Program Files programs take their twin's, same case.
-    sys.addFile(L"C:\\Program Files (x86)\\A\\a.exe");
-    sys.addFile(L"C:\\Program Files\\B\\b.EXE");
+    sys.addFile(L"C:\\Program Files (x86)\\A\\a.exe"); sys.addFile(L"C:\\Program Files\\B\\b.EXE");
     sys.addFile(L"E:\\Drive_G\\My.lst", "C:\\Program Files\\A\\a.exe\r\nc:\\program files\\a\\a.exe\r\n"
                 "C:\\Program Files\\B\\b.EXE\r\nC:\\Program Files (x86)\\C\\c.exe\r\nC:\\Program Files\\D\\readme.txt\r\n");
     app.settings.CustomListFile = L"G:\\My.lst";
@@ -137,8 +134,7 @@ TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
             std::tie(table.DisplayNames[i], table.ProgramPaths[i], table.StartupFolders[i]) = std::tuple(L"N" + n, L"P" + n, L"F" + n);
         }
         sys.answers = {MessageAnswer::Yes};
-        CustomListEditor editor(app, table);
-        editor.currentLine = c.line;
+        CustomListEditor editor(app, table); editor.currentLine = c.line;
         c.act ? (editor.*c.act)() : (editor.insertLine(), true);
         std::vector<std::wstring> names;
         for (std::size_t i : {0, 1, 9, 10, 11, 62, 63}) {
@@ -152,14 +148,12 @@ TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
     ASSERT_EQ(sys.messages.size(), 2u);
     EXPECT_EQ(std::tie(sys.messages[0].text, sys.messages[0].buttons),
               std::tuple(L"Delete this item from the list?\r\n\r\nN10\r\nP10\t\r\n", MessageButtons::YesNoDefaultNo));
-    sys.answers = {MessageAnswer::No};
-    CustomListEditor editor(app, table);
+    sys.answers = {MessageAnswer::No}; CustomListEditor editor(app, table);
     EXPECT_FALSE(editor.deleteLine() || editor.changed) << "No keeps the line";
 }
 
 TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
-    table = Filled({0, 1});
-    CustomListEditor editor(app, table);
+    table = Filled({0, 1}); CustomListEditor editor(app, table);
     editor.setName(1, L"  "), editor.leaveName(1);
     EXPECT_EQ(table.ProgramPaths[1], L"") << "a blank name takes its program with it";
     editor.currentLine = 0, editor.takeEntry(L"", L"C:\\Else");
@@ -168,8 +162,7 @@ TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
     EXPECT_EQ(std::pair(table.ProgramPaths[0], table.StartupFolders[0]), std::pair(std::wstring(L"C:\\Q.exe"), std::wstring()));
 
     // Loading straight away asks nothing; after a change it asks, and Cancel stops everything.
-    sys.addFile(L"C:\\Lists\\Other.lst", "Other\r\n");
-    sys.folders = {L"C:\\Work", L"C:\\Lists"};
+    sys.addFile(L"C:\\Lists\\Other.lst", "Other\r\n"); sys.folders = {L"C:\\Work", L"C:\\Lists"};
     sys.fileAnswers = {L"C:\\Lists\\Other.lst"};
     ASSERT_TRUE(editor.loadList());
     EXPECT_TRUE(sys.messages.empty());
