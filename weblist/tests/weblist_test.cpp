@@ -56,8 +56,7 @@ TEST(WebListFile, ReadsAndWritesTheDesignedCases) {
          L"***\r\n ;g\r\n ***h\r\n\r\n"},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        const WebListContent read = ParseWebList(c.file);
+        SCOPED_TRACE(c.what); const WebListContent read = ParseWebList(c.file);
         EXPECT_EQ(Show(read.rows), c.rows);
         EXPECT_EQ(read.groups.size(), c.groups);
         EXPECT_EQ(FormatWebList(read), c.saved);
@@ -87,8 +86,8 @@ TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuild
     };
     const std::wstring P = L"C:\\Program Files\\Web\\b.exe ", load4 = L"Load 4 selected websites from list?";
     const Case cases[] = {
-        {"add above a checked row: the new row carries its mark", {L"a", L"b+", L"c"}, 0, [](WebList& l) { return l.addItem(); }, true,
-         L"a|a |+* b|b c|c /", {}},
+        {"add above a checked row: the new row carries its mark", {L"a", L"b+", L"c"}, 0,
+         [](WebList& l) { return l.addItem(); }, true, L"a|a |+* b|b c|c /", {}},
         {"move a checked row up: the mark stays", {L"a", L"b+"}, 1, [](WebList& l) { return l.moveUp(); }, true,
          L"b|b* a|a+ /", {}},
         {"duplicate copies to the end, unchecked", {L"a", L"b+"}, 1, [](WebList& l) { return l.duplicate(); }, true,
@@ -133,16 +132,14 @@ TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuild
          L"a|a* /g h;", {}, {}, {P + L"g h"}},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        sys = FakeSystem(), sys.answers = c.answers, list.changed = list.groupShown = false;
+        SCOPED_TRACE(c.what); sys = FakeSystem(), sys.answers = c.answers, list.changed = list.groupShown = false;
         list.groups.clear(), list.rows = Rows(c.rows);
         list.rows[static_cast<std::size_t>(list.current = c.current)].selected = true;
         EXPECT_EQ(c.operation(list), c.changes);
         std::wstring after = Show(list.rows) + L"/";
         for (const std::wstring& group : list.groups) after += group + L";";
         EXPECT_EQ(std::pair(after, list.changed), std::pair(c.after, c.changes));
-        std::vector<std::wstring> messages, started;
-        for (const auto& m : sys.messages) messages.push_back(m.text);
+        std::vector<std::wstring> messages, started; for (const auto& m : sys.messages) messages.push_back(m.text);
         for (const auto& command : sys.started) started.push_back(command.commandLine);
         EXPECT_EQ(std::pair(messages, started), std::pair(c.messages, c.started));
     }
