@@ -39,8 +39,7 @@ protected:
 };
 
 TEST_F(Commands, TheMenuShowsTheTableAndAProgramNotFoundIsReportedAndKept) {
-    HWND bar = start({});
-    ASSERT_NE(bar, nullptr);
+    HWND bar = start({}); ASSERT_NE(bar, nullptr);
     std::vector<std::wstring> expected, shown;
     for (const MenuRow& row : MainMenuRows()) {  // every item draws itself, in the skin's colours
         const std::wstring shortcut = ShortcutText(row.shortcut);
@@ -53,8 +52,7 @@ TEST_F(Commands, TheMenuShowsTheTableAndAProgramNotFoundIsReportedAndKept) {
     EXPECT_EQ(shown, expected);
 
     PressKeys(bar, {VK_F9});  // "Load your program"
-    HWND dialog = WaitForDialogTitled(orvane->id(), L"Load your program");
-    ASSERT_NE(dialog, nullptr);
+    HWND dialog = WaitForDialogTitled(orvane->id(), L"Load your program"); ASSERT_NE(dialog, nullptr);
     SetControlText(dialog, IDC_PROGRAM, folder.path() + L"\\missing.exe");
     PressButton(dialog, IDOK);
     ASSERT_TRUE(AnswerMessage(orvane->id(), L"Cannot find this program:\r\n\r\n" + folder.path() + L"\\missing.exe"));
@@ -65,8 +63,7 @@ TEST_F(Commands, TheMenuShowsTheTableAndAProgramNotFoundIsReportedAndKept) {
 }
 
 TEST_F(Commands, ASuiteToolBesideTheProgramStartsInItsFolderFromItsAccessLetter) {
-    HWND bar = start({}, {L"TS_Files.exe"});
-    ASSERT_NE(bar, nullptr);
+    HWND bar = start({}, {L"TS_Files.exe"}); ASSERT_NE(bar, nullptr);
     PressKeys(bar, {VK_MENU, 'F'});  // the File menu, then its item's access letter
     Sleep(300);
     PressKeys(bar, {'F'});
@@ -88,8 +85,7 @@ TEST_F(Commands, WordStartsExcelIsReportedMissingAndWebmailOpensTheAddressGivenA
         orvane->id(), L"Cannot locate the following program/file:\r\n\r\nC:\\Program Files\\\\Microsoft Office\\Office\\EXCEL.EXE\r\n\r\n"));
 
     ASSERT_TRUE(PickMenuItem(bar, L"Web interface U&RL"));
-    HWND box = WaitForDialogTitled(orvane->id(), L"Orvane");
-    ASSERT_NE(box, nullptr);
+    HWND box = WaitForDialogTitled(orvane->id(), L"Orvane"); ASSERT_NE(box, nullptr);
     EXPECT_EQ(std::pair(ControlText(box, IDC_PROMPT), ControlText(box, IDC_BOX_TEXT)),
               std::pair(std::wstring(L"Enter URL for webmail interface"), std::wstring(L"https://old.example.org")));
     SetControlText(box, IDC_BOX_TEXT, L"https://mail.example.org/inbox");
@@ -101,8 +97,7 @@ TEST_F(Commands, WordStartsExcelIsReportedMissingAndWebmailOpensTheAddressGivenA
 
 TEST_F(Commands, ADocumentPastMaxPathGoesToItsTool) {
     const std::wstring deep = folder.path() + L"\\" + std::wstring(120, L'd') + L"\\" + std::wstring(120, L'e');
-    HWND bar = start({{3, Utf8(deep) + "\\deadlines.txt"}}, {L"TS_ScratchPad.exe"});
-    ASSERT_NE(bar, nullptr);
+    HWND bar = start({{3, Utf8(deep) + "\\deadlines.txt"}}, {L"TS_ScratchPad.exe"}); ASSERT_NE(bar, nullptr);
     CreateDirectoryW((L"\\\\?\\" + deep.substr(0, deep.rfind(L'\\'))).c_str(), nullptr);
     CreateDirectoryW((L"\\\\?\\" + deep).c_str(), nullptr);
     ASSERT_TRUE(WriteBytes(L"\\\\?\\" + deep + L"\\deadlines.txt", "x"));
@@ -112,8 +107,7 @@ TEST_F(Commands, ADocumentPastMaxPathGoesToItsTool) {
 }
 
 TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
-    HWND bar = start({{3, "C:\\Old\\Deadlines.vrt"}}, {L"browser.exe"});
-    ASSERT_NE(bar, nullptr);
+    HWND bar = start({{3, "C:\\Old\\Deadlines.vrt"}}, {L"browser.exe"}); ASSERT_NE(bar, nullptr);
     ASSERT_TRUE(PickMenuItem(bar, L"Get c&ustom browser"));
     HWND dialog = WaitForDialogTitled(orvane->id(), L"Get custom browser");
     ASSERT_TRUE(AnswerFileDialog(dialog, folder.path() + L"\\browser.exe"));
@@ -129,8 +123,7 @@ TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
 }
 
 TEST_F(Commands, LayoutCommandsReshapeTheBarInTwipsAndWithinTheWorkArea) {
-    HWND bar = start({{13, "200"}, {38, "1"}, {39, "15000"}});
-    ASSERT_NE(bar, nullptr);
+    HWND bar = start({{13, "200"}, {38, "1"}, {39, "15000"}}); ASSERT_NE(bar, nullptr);
     const int dpi = static_cast<int>(GetDpiForWindow(bar));
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
@@ -169,16 +162,14 @@ TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
 }
 
 TEST_F(Commands, ADarkSkinChosenInTheChooserColoursTheMenuBarAndIsKept) {
-    HWND bar = start({{20, Utf8(folder.path())}});
-    ASSERT_NE(bar, nullptr);
+    HWND bar = start({{20, Utf8(folder.path())}}); ASSERT_NE(bar, nullptr);
     // The first item of the menu bar, just above the client area, left of its caption.
     POINT item{GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYMENU) / 2};
     ClientToScreen(bar, &item);
     const auto light = [&] { const COLORREF c = ScreenColour(item); return GetRValue(c) + GetGValue(c) + GetBValue(c) >= 384; };
     EXPECT_TRUE(WaitFor(light, 5s)) << "the default skin is light";
     ASSERT_TRUE(PickMenuItem(bar, L"Change &skin"));
-    HWND chooser = WaitForDialogTitled(orvane->id(), L"Change skin");
-    ASSERT_NE(chooser, nullptr);
+    HWND chooser = WaitForDialogTitled(orvane->id(), L"Change skin"); ASSERT_NE(chooser, nullptr);
     EXPECT_EQ(ControlText(chooser, IDC_SKIN_FOLDER), folder.path());
     for (WORD key : {VK_END, VK_RETURN}) PressKeys(chooser, {key});  // Skin_Slate.bmp, last of the four
     EXPECT_TRUE(WaitFor([&] { return !light(); }, 5s)) << "the menu bar takes the dark skin's colours";

@@ -78,8 +78,7 @@ TEST_F(CustomPrograms, InformationIsCopiedAndTheEditorSavesAFreshFileAndDropsWha
     ASSERT_EQ(Names(dialog, IDC_GRID1, 1).size(), 1u);
 
     Popup(dialog, 'I');
-    HWND info = WaitForDialogTitled(orvane->id(), L"File information");
-    ASSERT_NE(info, nullptr);
+    HWND info = WaitForDialogTitled(orvane->id(), L"File information"); ASSERT_NE(info, nullptr);
     EXPECT_EQ(ControlText(info, IDC_INFO_EXISTS), L"File exists: YES");
     PressButton(info, IDC_INFO_CLIP);
     ASSERT_TRUE(AnswerMessage(orvane->id(), L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option."));

@@ -56,20 +56,18 @@ std::string Garbage(std::size_t size) {
 TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     ProgramFolder folder(L"first start");
     OrvaneProcess orvane(folder);
-    HWND box = orvane.waitForDialog();
-    ASSERT_NE(box, nullptr);
+    HWND box = orvane.waitForDialog(); ASSERT_NE(box, nullptr);
     EXPECT_EQ(TextOf(box) + L"|" + MessageBoxText(box),
               L"Orvane|Cannot locate the following program/file:\r\n\r\n" + folder.settingsFile() + L"\r\n\r\n");
     EXPECT_EQ(orvane.waitForMainWindow(0ms), nullptr) << "the message comes before the bar";
     PressButton(box, IDOK);
 
-    HWND bar = orvane.waitForMainWindow();
-    ASSERT_NE(bar, nullptr);
+    HWND bar = orvane.waitForMainWindow(); ASSERT_NE(bar, nullptr);
     EXPECT_EQ(TextOf(bar), L"Orvane");
     EXPECT_EQ(orvane.waitForDialog(0ms), nullptr) << "one message only";
     const auto closed = Close(orvane, bar, folder);
     ASSERT_TRUE(closed);
-    const RECT r = closed->bar;
+    const RECT& r = closed->bar;
     EXPECT_EQ(std::tuple(r.left, r.top, r.right - r.left, r.bottom - r.top),
               std::tuple(0L, 0L, Pixels(kBarWidthTwips), Pixels(kBarHeightTwips)));
     EXPECT_EQ(closed->written, BarFile(folder, r));
@@ -94,7 +92,7 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
     EXPECT_TRUE(WaitFor([&] { return !IsIconic(bar) && GetForegroundWindow() == bar; }, 5s)) << "restored, in front";
     EXPECT_EQ(ReadBytes(folder.settingsFile()), settings);
     const auto closed = Close(first, bar, folder);
-    ASSERT_TRUE(closed);
+    ASSERT_TRUE(closed);  // where it was put, and the file written from there
     EXPECT_EQ(std::tuple(closed->bar.left, closed->bar.top), std::tuple(Pixels(750), Pixels(1500)));
     EXPECT_EQ(closed->written, BarFile(folder, closed->bar));
 }
@@ -111,7 +109,7 @@ TEST(StartUp, TheBarKeepsItsSizeInTwipsOnAHighDpiScreenAndItsWidthWithinTheWorkA
     const RECT r = closed->bar;
     EXPECT_EQ(std::tuple(r.left, r.top, r.bottom - r.top), std::tuple(300L, 150L, Pixels(kBarHeightTwips, kDpi)));
     RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    EXPECT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0));
     EXPECT_EQ(closed->written, BarFile(folder, r, {{1, "1500"}, {2, "3000"}, {11, "1020"},
                                                    {39, Twips(area.right - area.left, kDpi)}}, kDpi));
 }

@@ -50,8 +50,7 @@ protected:
 };
 
 TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndTheWaysOutAskForThePassword) {
-    HWND window = open(L"Test_Bands.png", "abc");
-    ASSERT_NE(window, nullptr);
+    HWND window = open(L"Test_Bands.png", "abc"); ASSERT_NE(window, nullptr);
     RECT whole{};
     GetWindowRect(window, &whole);
     EXPECT_EQ(std::tuple(whole.left, whole.top, whole.right, whole.bottom),
@@ -76,8 +75,7 @@ TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndTheWaysOutAskForThePassword
         EXPECT_TRUE(IsWindowVisible(window)) << "stays";
     }
     PressKeys(window, {VK_CONTROL, VK_SHIFT, 'M'});  // the clock, over the wallpaper
-    HWND clock = WaitForDialogTitled(orvane->id(), L"Clock");
-    ASSERT_NE(clock, nullptr);
+    HWND clock = WaitForDialogTitled(orvane->id(), L"Clock"); ASSERT_NE(clock, nullptr);
     RECT c{};
     GetWindowRect(clock, &c);
     EXPECT_EQ(GetAncestor(WindowFromPoint({(c.left + c.right) / 2, (c.top + c.bottom) / 2}), GA_ROOT), clock);
@@ -89,8 +87,7 @@ TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndTheWaysOutAskForThePassword
 }
 
 TEST_F(Wallpaper, ASmallBitmapIsShownAtItsSizeThenStretchedAndWithoutAPasswordAnyAnswerCloses) {
-    HWND window = open(L"Wallpaper_Small.bmp");
-    ASSERT_NE(window, nullptr);
+    HWND window = open(L"Wallpaper_Small.bmp"); ASSERT_NE(window, nullptr);
     const POINT corner{Client(window).left + 5, Client(window).top + 5};
     EXPECT_TRUE(WaitFor([&] { return ScreenColour(corner) == RGB(255, 255, 255); }, 5s));
     PressKeys(window, {VK_CONTROL, VK_SHIFT, 'Y'});  // "&Stretch"
@@ -119,8 +116,7 @@ TEST_F(Wallpaper, BadPicturesAreReportedOnceAndLeaveAWindowThatClosesAsUsual) {
     for (const std::wstring file : {L"Test_Huge.png", L"Notes.png", L"Gone.jpg"}) {
         SCOPED_TRACE(Utf8(file));
         const bool missing = file == L"Gone.jpg";  // the rest are the imaging library's to report
-        HWND window = open(file);
-        ASSERT_NE(window, nullptr);
+        HWND window = open(file); ASSERT_NE(window, nullptr);
         ASSERT_TRUE(AnswerMessage(orvane->id(),
                                   missing ? L"Cannot locate the following program/file:\r\n\r\n" + path(file) + L"\r\n\r\n"
                                           : PictureErrorText(path(file)),

@@ -96,8 +96,7 @@ TEST_F(WebList, ATenMegabyteListOfGarbageAndTooManyRowsOpensButIsNeverHalfWritte
     std::vector<std::array<std::string, 3>> many(40000, {"Site", "http://example/" + std::string(200, 'p'), "0"});
     many[7][0] = garbage;
     const std::string list = WebListFile(many);
-    HWND window = open(list, L"Long.lst");
-    ASSERT_NE(window, nullptr);
+    HWND window = open(list, L"Long.lst"); ASSERT_NE(window, nullptr);
     HWND rows = GetDlgItem(window, IDC_WEB_ROWS);
     EXPECT_EQ(ListView_GetItemCount(rows), 40000);
     PressKeys(window, {VK_SHIFT, VK_F5});  // a separator at the end: changed
