@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 
+#include "dpi.h"
 #include "layout.h"
 #include "menu.h"
 #include "orvane_process.h"
@@ -124,7 +125,7 @@ TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
 
 TEST_F(Commands, LayoutCommandsReshapeTheBarInTwipsAndWithinTheWorkArea) {
     HWND bar = start({{13, "200"}, {38, "1"}, {39, "15000"}}); ASSERT_NE(bar, nullptr);
-    const int dpi = static_cast<int>(GetDpiForWindow(bar));
+    const int dpi = static_cast<int>(orvane::ui::WindowDpi(bar));
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     const auto pick = [&](const wchar_t* caption) {
@@ -153,7 +154,7 @@ TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
     HWND strip = FindWindowExW(bar, nullptr, L"Orvane.IconStrip", nullptr);
     ASSERT_TRUE(strip && IsWindowVisible(strip));
     // Word's icon, where the layout puts it: from the window's left edge, midway down the strip.
-    const int dpi = static_cast<int>(GetDpiForWindow(bar));
+    const int dpi = static_cast<int>(orvane::ui::WindowDpi(bar));
     const RECT window = Rect(bar), band = Rect(strip);
     const double left = LayStrip(MulDiv(window.right - window.left, 1440, dpi), 0).iconLeft[10];
     ClickAt({window.left + static_cast<int>(left * dpi / 1440) + MulDiv(240, dpi, 1440), (band.top + band.bottom) / 2});

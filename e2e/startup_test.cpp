@@ -7,7 +7,10 @@
 #include <random>
 #include <tuple>
 
+#include "dpi.h"
 #include "orvane_process.h"
+#include "resource.h"
+#include "version.h"
 #include "win_support.h"
 
 namespace orvane::e2e {
@@ -17,7 +20,7 @@ using namespace testsupport;
 
 constexpr int kBarWidthTwips = 16060, kBarHeightTwips = 1020;
 
-int ScreenDpi() { return static_cast<int>(GetDpiForSystem()); }
+int ScreenDpi() { return static_cast<int>(orvane::ui::WindowDpi(nullptr)); }
 LONG Pixels(int twips, int dpi = ScreenDpi()) { return MulDiv(twips, dpi, 1440); }
 std::string Twips(int pixels, int dpi) { return std::to_string(MulDiv(pixels, 1440, dpi)); }
 
@@ -65,6 +68,12 @@ TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     HWND bar = orvane.waitForMainWindow(); ASSERT_NE(bar, nullptr);
     EXPECT_EQ(TextOf(bar), L"Orvane");
     EXPECT_EQ(orvane.waitForDialog(0ms), nullptr) << "one message only";
+    ASSERT_TRUE(PickMenuItem(bar, L"&About this program"));
+    HWND about = WaitForDialogTitled(orvane.id(), L"About Orvane");
+    ASSERT_NE(about, nullptr);
+    EXPECT_EQ(ControlText(about, IDC_ABOUT_VERSION), L"Version " ORVANE_VERSION_TEXT);
+    PressKeys(about, {VK_ESCAPE});
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(about); }, 5s));
     const auto closed = Close(orvane, bar, folder);
     ASSERT_TRUE(closed);
     const RECT& r = closed->bar;

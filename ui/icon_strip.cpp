@@ -215,7 +215,7 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case kSkinChanged:
         InvalidateRect(hwnd(), nullptr, TRUE);
         return 0;
-    case WM_DPICHANGED_AFTERPARENT:
+    case kDpiChangedAfterParent:
         loadedSize_ = -1;
         return 0;
     case WM_MOUSEMOVE:

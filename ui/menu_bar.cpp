@@ -26,16 +26,7 @@ BYTE AcceleratorFlags(Shortcut shortcut) {
 
 // The system's menu font at the window's DPI, or the chosen one.
 HFONT MenuFont(UINT dpi, const std::wstring& name, int points, bool bold) {
-    using ForDpi = BOOL(WINAPI*)(UINT, UINT, PVOID, UINT, UINT);
-    static const auto forDpi = reinterpret_cast<ForDpi>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "SystemParametersInfoForDpi")));
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    if (!forDpi || !forDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi)) {
-        SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-        metrics.lfMenuFont.lfHeight = MulDiv(metrics.lfMenuFont.lfHeight, static_cast<int>(dpi), static_cast<int>(WindowDpi(nullptr)));
-    }
-    LOGFONTW font = metrics.lfMenuFont;
+    LOGFONTW font = NonClientMetricsForDpi(dpi).lfMenuFont;
     if (!name.empty() && name.size() < LF_FACESIZE) {
         wcscpy_s(font.lfFaceName, name.c_str());
         if (points > 0) font.lfHeight = -MulDiv(points, static_cast<int>(dpi), 72);

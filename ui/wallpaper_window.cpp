@@ -86,8 +86,8 @@ private:
         ShowScrollBar(hwnd(), SB_BOTH, FALSE);
         const UINT dpi = WindowDpi(hwnd());
         bars_ = stretched_ || !picture_ ? ScrollLayout{false, false, clientSize()}
-                                        : LayoutAtNaturalSize(image_, clientSize(), GetSystemMetricsForDpi(SM_CXVSCROLL, dpi),
-                                                              GetSystemMetricsForDpi(SM_CYHSCROLL, dpi));
+                                        : LayoutAtNaturalSize(image_, clientSize(), SystemMetricForDpi(SM_CXVSCROLL, dpi),
+                                                              SystemMetricForDpi(SM_CYHSCROLL, dpi));
         setBar(SB_HORZ, bars_.horizontal, image_.width, bars_.view.width, offset_.x);
         setBar(SB_VERT, bars_.vertical, image_.height, bars_.view.height, offset_.y);
         InvalidateRect(hwnd(), nullptr, FALSE);

@@ -268,22 +268,28 @@ long long Win32System::shellVerb(WindowRef owner, const std::wstring& verb, cons
     return result;
 }
 
+namespace {
+
+// A named callback, not a lambda: on 32-bit Windows EnumWindows calls it
+// with the stdcall convention, which a lambda cannot take.
+BOOL CALLBACK AddTopLevelWindow(HWND handle, LPARAM context) {
+    TopLevelWindow window;
+    window.handle = ToRef(handle);
+    window.visible = IsWindowVisible(handle);
+    window.hasParent = GetParent(handle) != nullptr;
+    window.hasOwner = GetWindow(handle, GW_OWNER) != nullptr;
+    window.exStyle = static_cast<std::uint32_t>(GetWindowLongW(handle, GWL_EXSTYLE));
+    wchar_t title[256];
+    window.title.assign(title, static_cast<std::size_t>(GetWindowTextW(handle, title, 256)));
+    reinterpret_cast<std::vector<TopLevelWindow>*>(context)->push_back(std::move(window));
+    return TRUE;
+}
+
+}  // namespace
+
 std::vector<TopLevelWindow> Win32System::topLevelWindows() {
     std::vector<TopLevelWindow> windows;
-    EnumWindows(
-        [](HWND handle, LPARAM context) -> BOOL {
-            TopLevelWindow window;
-            window.handle = ToRef(handle);
-            window.visible = IsWindowVisible(handle);
-            window.hasParent = GetParent(handle) != nullptr;
-            window.hasOwner = GetWindow(handle, GW_OWNER) != nullptr;
-            window.exStyle = static_cast<std::uint32_t>(GetWindowLongW(handle, GWL_EXSTYLE));
-            wchar_t title[256];
-            window.title.assign(title, static_cast<std::size_t>(GetWindowTextW(handle, title, 256)));
-            reinterpret_cast<std::vector<TopLevelWindow>*>(context)->push_back(std::move(window));
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    EnumWindows(AddTopLevelWindow, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 

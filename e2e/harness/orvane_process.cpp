@@ -13,8 +13,9 @@ namespace orvane::e2e {
 
 using namespace testsupport;
 
-ProgramFolder::ProgramFolder(const std::wstring& name)
-    : path_(FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), name)) {
+ProgramFolder::ProgramFolder(const std::wstring& name) : path_(EnvironmentPath(L"ORVANE_PROGRAM_FOLDER")) {
+    if (!path_.empty()) return;  // a folder laid out elsewhere, the unzipped release, used as it stands
+    path_ = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), name);
     CopyInto(EnvironmentPath(L"ORVANE_EXE"), path_);
     // The built skins: the default one, and others (a dark one among them) to choose; and the hand cursor.
     std::error_code error;

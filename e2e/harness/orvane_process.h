@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 inline constexpr wchar_t kMainWindowClass[] = L"Orvane.Main";
 inline constexpr wchar_t kDialogClass[] = L"#32770";
 
-// A fresh program folder holding a copy of orvane.exe and the skins (Skin_*.bmp).
+// A fresh program folder holding a copy of orvane.exe and the skins (Skin_*.bmp), or the one ORVANE_PROGRAM_FOLDER names.
 class ProgramFolder {
 public:
     explicit ProgramFolder(const std::wstring& name);
