@@ -25,12 +25,17 @@ NATIVE_PACKAGES=(cmake ninja-build g++ libgtest-dev)
 SANITIZE_PACKAGES=(cmake ninja-build clang libclang-rt-14-dev libgtest-dev)
 # The menu icons are built from the Tango theme with python3 and rsvg-convert.
 WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine xvfb xauth
-  python3 librsvg2-bin tango-icon-theme)
+  python3 librsvg2-bin tango-icon-theme unzip)
+# The 32-bit orvane.exe: built and inspected, never run.
+X86_PACKAGES=(cmake ninja-build g++-mingw-w64-i686-posix googletest python3 librsvg2-bin tango-icon-theme)
 
+# Configures and builds a preset: all its targets, or the ones named after it.
 build_preset() {
-  say "building ($1)"
-  cmake --preset "$1" >/dev/null
-  cmake --build --preset "$1"
+  local preset=$1
+  shift
+  say "building ($preset${*:+: $*})"
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" ${*:+--target "$@"}
 }
 
 # Runs every fuzz target of the sanitize build for $1 seconds each, from its
