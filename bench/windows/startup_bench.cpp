@@ -29,7 +29,6 @@ namespace {
 
 constexpr int kMinimumRuns = 5;
 constexpr double kRatioGoal = 1.3;
-constexpr double kSizeGoalKiB = 2048;
 constexpr DWORD kStartTimeoutMs = 30000;
 
 struct Program {
@@ -156,10 +155,6 @@ int wmain(int argc, wchar_t** argv) {
         time[which] = Median(times);
         memory[which] = Median(sets);
     }
-    WIN32_FILE_ATTRIBUTE_DATA attributes{};
-    GetFileAttributesExW(orvane.path.c_str(), GetFileExInfoStandard, &attributes);
-    const double sizeKiB =
-        static_cast<double>((static_cast<ULONGLONG>(attributes.nFileSizeHigh) << 32) | attributes.nFileSizeLow) / 1024.0;
     const double timeRatio = time[0] / time[1];
     const double memoryRatio = memory[0] / memory[1];
 
@@ -175,7 +170,6 @@ int wmain(int argc, wchar_t** argv) {
     orvane::bench::TableRow("the same, an empty window with orvane.exe's system libraries against the bare one", time[2] / time[1]);
     orvane::bench::TableRow("the same, orvane.exe against that empty window with its libraries", time[0] / time[2]);
     orvane::bench::TableRow("peak working set, orvane.exe against the empty window with its libraries", memory[0] / memory[2]);
-    orvane::bench::TableRow("orvane.exe size (KiB)", sizeKiB, kSizeGoalKiB, orvane::bench::Goal::Below);
     std::fflush(stdout);
 
     ts::RemoveTree(folder);
