@@ -24,6 +24,7 @@ public:
     // Filled by start-up.
     std::wstring ProgramFolder;  // without trailing backslash
     std::wstring SettingsFilePath;
+    bool SettingsFileKept = false;  // too large to be read: not written over at exit either
     std::wstring ListFileFilter;
     std::int16_t OsVersionCode = 0;
     std::int16_t OsMinorVersion = 0;

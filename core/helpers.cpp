@@ -5,6 +5,15 @@
 
 namespace orvane {
 
+WholeFile ReadWholeFile(System& sys, const std::wstring& path) {
+    if (const auto facts = sys.fileFacts(path); facts && facts->size > kMostFileBytes) return {std::nullopt, facts->size};
+    // One byte more than the most tells a file that grew after its size was asked.
+    auto bytes = sys.readFile(path, kMostFileBytes + 1);
+    if (!bytes || bytes->size() <= kMostFileBytes) return {std::move(bytes)};
+    const auto facts = sys.fileFacts(path);
+    return {std::nullopt, facts ? facts->size : bytes->size()};
+}
+
 void DeleteFileIfPresent(App& app, const std::wstring& path) {
     if (!path.empty() && app.sys.fileExists(path)) app.sys.deleteFile(path);
 }

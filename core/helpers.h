@@ -1,6 +1,8 @@
 // Small file, path and system helpers shared by the core.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "system.h"
@@ -21,6 +23,17 @@ private:
     System& sys_;
     std::wstring folder_;
 };
+
+// The most the program reads of a settings or list file, far beyond any real one.
+inline constexpr std::uint64_t kMostFileBytes = std::uint64_t{64} << 20;
+
+// A file read whole or not at all, never cut short.
+struct WholeFile {
+    std::optional<std::string> bytes;  // nothing when the file cannot be read or is too large
+    std::uint64_t tooLarge = 0;        // the size of a file larger than kMostFileBytes
+};
+// A file over kMostFileBytes is refused without being read.
+WholeFile ReadWholeFile(System& sys, const std::wstring& path);
 
 // Deletes the file when the path is not empty and the file exists; errors ignored.
 void DeleteFileIfPresent(App& app, const std::wstring& path);

@@ -2,6 +2,7 @@
 
 #include "app.h"
 #include "conversions.h"
+#include "helpers.h"
 
 namespace orvane {
 
@@ -22,6 +23,16 @@ void ReportFileError(App& app, const std::wstring& path, const std::optional<std
                             L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n" + reason +
                             L"\r\n",
                         kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
+}
+
+std::wstring FileTooLargeText(const std::wstring& path, std::uint64_t size) {
+    return L"Cannot load this file :\r\n\r\n" + path + L"\r\n\r\nIt holds " + std::to_wstring(size) +
+           L" bytes, more than the " + std::to_wstring(kMostFileBytes) +
+           L" the program reads. Nothing of it was loaded, and the file is left as it is.\r\n";
+}
+
+void ReportFileTooLarge(App& app, const std::wstring& path, std::uint64_t size) {
+    app.sys.showMessage(FileTooLargeText(path, size), kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
 }
 
 }  // namespace orvane

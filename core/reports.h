@@ -1,6 +1,7 @@
 // The two standard messages about files.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -15,5 +16,9 @@ void ReportFileNotFound(App& app, const std::wstring& path, const std::optional<
 // "Cannot save this file :" with the path and the system's reason; passing any
 // operation means a deletion failed ("Cannot delete this file :").
 void ReportFileError(App& app, const std::wstring& path, const std::optional<std::wstring>& operation = std::nullopt);
+
+// "Cannot load this file :" with the path and its size: nothing of it was read.
+std::wstring FileTooLargeText(const std::wstring& path, std::uint64_t size);
+void ReportFileTooLarge(App& app, const std::wstring& path, std::uint64_t size);
 
 }  // namespace orvane

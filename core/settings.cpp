@@ -104,14 +104,15 @@ void LoadSettings(App& app) {
         return;
     }
     // A file that exists but cannot be read (locked, say) is passed over
-    // silently: every value keeps its initial state. Only the first 39 lines
-    // count, so a huge file is read no further than any real one could need.
-    constexpr std::size_t kReadLimit = 64u << 20;
-    if (const auto bytes = app.sys.readFile(app.SettingsFilePath, kReadLimit))
-        ApplySettingsLines(app.settings, app.sys.fromAnsi(*bytes));
+    // silently: every value keeps its initial state. So is one too large to be
+    // read whole, which is then kept as it is rather than replaced at exit.
+    const WholeFile file = ReadWholeFile(app.sys, app.SettingsFilePath);
+    app.SettingsFileKept = file.tooLarge != 0;
+    if (file.bytes) ApplySettingsLines(app.settings, app.sys.fromAnsi(*file.bytes));
 }
 
 void SaveSettings(App& app) {
+    if (app.SettingsFileKept) return;
     DeleteFileIfPresent(app, app.SettingsFilePath);
     // The old runtime flagged only error number -1 here; every other failure
     // to create the file goes unreported, and the program still ends.

@@ -73,9 +73,10 @@ void ApplySettingsLines(Settings& settings, const std::wstring& text);
 // The whole file: 39 lines, each ending in CR LF.
 std::wstring FormatSettings(const Settings& settings);
 
-// Reads SettingsFilePath into app.settings, reporting a missing file.
+// Reads SettingsFilePath into app.settings, reporting a missing file. A file
+// too large to read whole leaves the initial values, quietly.
 void LoadSettings(App& app);
-// Writes app.settings to SettingsFilePath as a fresh file.
+// Writes app.settings to SettingsFilePath as a fresh file, unless the file was too large to read.
 void SaveSettings(App& app);
 
 }  // namespace orvane

@@ -108,9 +108,11 @@ bool CustomListEditor::loadList() {
     const auto chosen = app_.sys.chooseFile(
         {.title = L"Select list of programs", .filter = app_.ListFileFilter, .folder = ParentFolder(listFile)});
     if (!chosen || chosen->empty()) return false;
-    listFile = *chosen;
+    const std::wstring previous = std::exchange(listFile, *chosen);
     const bool loaded = LoadCustomList(app_, table_);
+    // A list that was not read leaves the table as it was, and with it the file a save writes.
     if (loaded) changed = false;
+    else listFile = previous;
     return loaded;
 }
 

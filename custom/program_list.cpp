@@ -10,10 +10,6 @@ namespace orvane {
 
 namespace {
 
-// Far beyond any real list, so a huge file costs no more than this to read;
-// only its first 192 lines count.
-constexpr std::size_t kReadLimit = 64u << 20;
-
 CustomProgramTable::Column& Section(CustomProgramTable& table, std::size_t index) {
     return index == 0 ? table.DisplayNames : index == 1 ? table.ProgramPaths : table.StartupFolders;
 }
@@ -33,13 +29,17 @@ bool LoadCustomList(App& app, CustomProgramTable& table) {
         ReportFileNotFound(app, given);
         return false;
     }
+    const WholeFile file = ReadWholeFile(app.sys, path);
+    if (file.tooLarge) {
+        ReportFileTooLarge(app, path, file.tooLarge);
+        return false;
+    }
     table = {};
     // A file that exists but cannot be opened (locked, no rights) gives an
     // empty table and no message, as the old reader did.
-    const auto bytes = app.sys.readFile(path, kReadLimit);
-    if (!bytes) return true;
+    if (!file.bytes) return true;
     std::size_t number = 0;
-    for (std::string_view raw : SplitAtCarriageReturns(*bytes, 3 * kCustomEntries)) {
+    for (std::string_view raw : SplitAtCarriageReturns(*file.bytes, 3 * kCustomEntries)) {
         std::wstring line = app.sys.fromAnsi(std::string(raw));
         if (ContainsIgnoringCase(line, L".exe") && !app.sys.fileExists(line)) SwapProgramFilesFolder(line);
         Section(table, number / kCustomEntries)[number % kCustomEntries] = std::move(line);

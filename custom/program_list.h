@@ -24,7 +24,8 @@ struct CustomProgramTable {
 };
 
 // Reads the file CustomListFile names, after the suite's path rules have had
-// a chance to find it. A missing file is reported and the table is kept;
+// a chance to find it. A missing file, or one too large to read whole, is
+// reported and the table is kept;
 // otherwise the table is read anew (empty when the file cannot be opened) and
 // the result is true. Program Files paths that are missing are swapped for
 // their (x86) twin, and back.

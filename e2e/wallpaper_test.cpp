@@ -51,10 +51,6 @@ protected:
 
 TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndTheWaysOutAskForThePassword) {
     HWND window = open(L"Test_Bands.png", "abc"); ASSERT_NE(window, nullptr);
-    RECT whole{};
-    GetWindowRect(window, &whole);
-    EXPECT_EQ(std::tuple(whole.left, whole.top, whole.right, whole.bottom),
-              std::tuple(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)));
     const RECT client = Client(window);
     const PixelRect drawn = FitKeepingAspect({1600, 400}, {client.right - client.left, client.bottom - client.top});
     const LONG middle = (client.left + client.right) / 2, top = client.top + drawn.top;
@@ -63,16 +59,29 @@ TEST_F(Wallpaper, APngFillsTheScreenWithWhiteBandsAndTheWaysOutAskForThePassword
                                     std::pair(top + drawn.height + 1, RGB(255, 255, 255))})
         EXPECT_TRUE(WaitFor([&] { return ScreenColour({middle, y}) == colour; }, 5s)) << "at " << y;
 
-    const std::function<void()> waysOut[] = {
-        [&] { PressKeys(window, {VK_ESCAPE}); },
-        [&] { ClickAt({middle, top + 10}); },
-        [&] { PostMessageW(orvane->waitForMainWindow(), WM_CLOSE, 0, 0); },  // the bar's close goes through it too
+    HWND bar = orvane->waitForMainWindow();
+    const std::function<void()> none = [] {}, escape = [&] { PressKeys(window, {VK_ESCAPE}); };
+    // A way round the password, if any, then a way out, which asks once what went before is done.
+    const std::pair<std::function<void()>, std::function<void()>> ways[] = {
+        {none, escape},
+        {none, [&] { ClickAt({middle, top + 10}); }},
+        {none, [&] { PostMessageW(bar, WM_CLOSE, 0, 0); }},  // the bar's close goes through it too
+        {[&] { PostMessageW(window, WM_ENDSESSION, TRUE, 0); }, escape},  // the session does not end
+        {[&] { PostMessageW(window, WM_SYSCOMMAND, SC_MOVE, 0); }, escape},  // else Esc ends the move
+        {[&] { PostMessageW(window, WM_SYSCOMMAND, SC_MINIMIZE, 0); }, escape},
+        {[&] { ShowWindow(window, SW_MINIMIZE); }, escape},
+        {[&] { ShowWindow(window, SW_HIDE); }, escape},
+        {[&] { MoveWindow(window, -500, 100, 400, 300, TRUE); }, escape},
+        {[&] { ShowWindow(bar, SW_MINIMIZE); }, escape},  // the cover's owner
     };
-    for (const auto& wayOut : waysOut) {
+    for (const auto& [wayRound, wayOut] : ways) {
+        wayRound();
         wayOut();
         ASSERT_TRUE(answer(L"ABC"));
         ASSERT_TRUE(AnswerMessage(orvane->id(), L"Wrong password!\r\n\r\n\"ABC\""));
-        EXPECT_TRUE(IsWindowVisible(window)) << "stays";
+        for (const POINT corner : {POINT{0, 0}, POINT{GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1}})
+            EXPECT_EQ(GetAncestor(WindowFromPoint(corner), GA_ROOT), window) << "over the whole screen";
+        EXPECT_TRUE(IsWindow(bar) && !IsIconic(bar)) << "runs on";
     }
     PressKeys(window, {VK_CONTROL, VK_SHIFT, 'M'});  // the clock, over the wallpaper
     HWND clock = WaitForDialogTitled(orvane->id(), L"Clock"); ASSERT_NE(clock, nullptr);

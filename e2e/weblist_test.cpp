@@ -9,6 +9,8 @@
 
 #include "orvane_process.h"
 #include "program_windows.h"
+#include "helpers.h"
+#include "reports.h"
 #include <commctrl.h>
 #include "resource.h"
 #include "win_support.h"
@@ -89,7 +91,7 @@ TEST_F(WebList, RowsAndChecksAsInTheFileCheckedOnesOpenInOneCommandLineARowAdded
     EXPECT_EQ(std::tuple(settings.at(33), settings.at(34), settings.at(36)), std::tuple("C:\\none.exe", browser(), "1"));
 }
 
-TEST_F(WebList, ATenMegabyteListOfGarbageAndTooManyRowsOpensButIsNeverHalfWritten) {
+TEST_F(WebList, ATenMegabyteListOfGarbageAndTooManyRowsOpensButIsNeverHalfWrittenAndOneTooLargeIsNotOpened) {
     // 40,000 rows, one of them a megabyte of every byte value: about ten megabytes in all.
     std::string garbage;
     for (int i = 0; i < (1 << 20); ++i) garbage += static_cast<char>(i % 256 == 13 ? 'x' : i % 256);
@@ -104,6 +106,12 @@ TEST_F(WebList, ATenMegabyteListOfGarbageAndTooManyRowsOpensButIsNeverHalfWritte
     PressKeys(window, {VK_CONTROL, 'S'});
     ASSERT_TRUE(AnswerMessage(orvane->id(),
                               L"This list has 40001 entries, more than the 32767 a web list file can hold. Nothing was saved."));
+    const std::string tooLarge = list + std::string(kMostFileBytes + 1 - list.size(), 'x');  // refused: the list shown stays
+    ASSERT_TRUE(WriteBytes(folder.path() + L"\\Huge.lst", tooLarge));
+    PressKeys(window, {VK_CONTROL, 'O'});
+    ASSERT_TRUE(AnswerFileDialog(WaitForDialogTitled(orvane->id(), L"Load list of websites"), folder.path() + L"\\Huge.lst"));
+    ASSERT_TRUE(AnswerMessage(orvane->id(), FileTooLargeText(folder.path() + L"\\Huge.lst", kMostFileBytes + 1)));
+    EXPECT_EQ(ListView_GetItemCount(rows), 40001);
     PostMessageW(window, WM_CLOSE, 0, 0);
     ASSERT_TRUE(AnswerMessage(orvane->id(), L"Save list before exiting this level ? ", IDNO)) << "still unsaved";
     EXPECT_EQ(ReadBytes(folder.path() + L"\\Long.lst"), list);

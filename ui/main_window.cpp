@@ -12,6 +12,8 @@ namespace orvane::ui {
 namespace {
 
 constexpr wchar_t kInstanceMutexName[] = L"Local\\Orvane.Instance";
+// Posted when the bar was minimised under the wallpaper: it comes back.
+constexpr UINT kRestoreUnderWallpaper = WM_APP + 1;
 
 TwipsRect ToTwips(const RECT& r, UINT dpi) {
     return {PixelsToTwips(r.left, dpi), PixelsToTwips(r.top, dpi), PixelsToTwips(r.right - r.left, dpi),
@@ -96,8 +98,13 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         Skin::instance().paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
         return TRUE;
     case WM_SIZE:
+        // The bar owns the wallpaper, and a minimised owner takes the cover along: not while it shows.
+        if (wParam == SIZE_MINIMIZED && OpenWallpaper()) PostMessageW(hwnd(), kRestoreUnderWallpaper, 0, 0);
         resized();
         break;
+    case kRestoreUnderWallpaper:
+        ShowWindow(hwnd(), SW_SHOWNOACTIVATE);
+        return 0;
     case WM_SETFOCUS:
         // The strip is the bar's one control: the keyboard goes there.
         if (IsWindowVisible(strip_.hwnd())) SetFocus(strip_.hwnd());

@@ -20,6 +20,8 @@ constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr int kLinePixels = 40;  // one arrow key or wheel notch's worth, at 96 DPI
 // Posted at the start: the picture, and any message about it, come once the window is up.
 constexpr UINT kShowPicture = WM_APP + 1;
+// Posted when the cover was minimised after all: it covers the screen again.
+constexpr UINT kCoverAgain = WM_APP + 2;
 
 // The keys that move a picture shown at its natural size: the scroll bar and what it would be sent.
 struct ScrollKey {
@@ -56,6 +58,20 @@ private:
                           GetWindowLongPtrW(hwnd(), GWL_EXSTYLE) & ~(WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE));
         SetWindowPos(hwnd(), HWND_TOPMOST, 0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
                      SWP_FRAMECHANGED);
+    }
+
+    // Until the password lets the user out, nothing moves, sizes or hides the cover.
+    void pin(WINDOWPOS& position) const {
+        if (leaving_ || IsIconic(hwnd())) return;
+        position.x = position.y = 0;
+        position.cx = GetSystemMetrics(SM_CXSCREEN);
+        position.cy = GetSystemMetrics(SM_CYSCREEN);
+        position.flags &= ~SWP_HIDEWINDOW;
+    }
+
+    void leave() {
+        leaving_ = true;
+        end(IDCANCEL);
     }
 
     PixelSize clientSize() const {
@@ -170,7 +186,7 @@ private:
         asking_ = true;
         const std::wstring typed = ShowInputBox(app_, hwnd(), kPasswordPrompt, L"");
         asking_ = false;
-        if (ReturnAllowed(app_, typed)) end(IDCANCEL);
+        if (ReturnAllowed(app_, typed)) leave();
     }
 
     void onCommand(int id, int) override {
@@ -215,8 +231,28 @@ private:
             ShowWindow(hwnd(), SW_SHOW);  // the dialog manager would show it only once idle
             if (const auto path = WallpaperImage(app_)) showPicture(*path);
             return TRUE;
-        case WM_ENDSESSION:  // Windows is ending the session: no question
-            if (wParam) end(IDCANCEL);
+        // When Windows ends the session the wallpaper goes without a question. Windows says it is
+        // shutting down, or sends its question first; a message another program posts is no such end.
+        case WM_QUERYENDSESSION: sessionEnding_ = InSendMessage(); return FALSE;
+        case WM_ENDSESSION:
+            if (wParam && (sessionEnding_ || GetSystemMetrics(SM_SHUTTINGDOWN))) leave();
+            sessionEnding_ = false;
+            return TRUE;
+        case WM_SYSCOMMAND:
+            switch (wParam & 0xFFF0) {
+            case SC_MOVE:
+            case SC_SIZE:
+            case SC_MINIMIZE:
+            case SC_MAXIMIZE: return TRUE;  // the cover stays as it is
+            }
+            return FALSE;
+        case WM_WINDOWPOSCHANGING: pin(*reinterpret_cast<WINDOWPOS*>(lParam)); return FALSE;
+        case WM_SIZE:
+            if (wParam == SIZE_MINIMIZED && !leaving_) PostMessageW(hwnd(), kCoverAgain, 0, 0);
+            return FALSE;
+        case kCoverAgain:
+            ShowWindow(hwnd(), SW_RESTORE);
+            cover();
             return TRUE;
         case WM_DESTROY: openWallpaper = nullptr; return FALSE;
         }
@@ -230,7 +266,7 @@ private:
     struct {
         int x = 0, y = 0;
     } offset_;  // the scroll position, at natural size
-    bool stretched_ = false, asking_ = false;
+    bool stretched_ = false, asking_ = false, leaving_ = false, sessionEnding_ = false;
     ScrollLayout bars_;
 };
 

@@ -19,8 +19,6 @@ using C = WebListCommand;
 
 constexpr wchar_t kFile[] = L"keyFile", kEdit[] = L"keyEdit", kGroup[] = L"keyGroup";
 constexpr wchar_t kListFilter[] = L"List files (*.lst)|*.lst|All files (*.*)|*.*";
-// Web list files are small; this bounds what a wrong file can cost.
-constexpr std::size_t kMostBytesRead = 64u << 20;
 
 // "&Edit item" shares its key with "&Load checked items": the caption decides.
 constexpr auto kMenu = std::to_array<MenuRow>({
@@ -71,18 +69,25 @@ std::wstring WebList::caption() const {
     return L"Website list :  " + app_.settings.WebListFile + L"  ( " + std::to_wstring(rows.size()) + L" entries )";
 }
 
-bool WebList::load() {
+bool WebList::load() { return read(app_.settings.WebListFile); }
+
+bool WebList::read(const std::wstring& path) {
+    const WholeFile file = ReadWholeFile(app_.sys, path);
+    // Refused before anything changes: the window keeps the list it had, and its name.
+    if (file.tooLarge) {
+        ReportFileTooLarge(app_, path, file.tooLarge);
+        return false;
+    }
+    app_.settings.WebListFile = path;
     groups.clear();
     rows.clear();
     current = currentGroup = -1;
     selectedGroups.clear();
-    const std::wstring& path = app_.settings.WebListFile;
-    const auto bytes = app_.sys.readFile(path, kMostBytesRead);
-    if (!bytes) {
+    if (!file.bytes) {
         Say(app_, L"Can't open file: " + path, MessageIcon::None);
         return false;
     }
-    content = ParseWebList(app_.sys.fromAnsi(*bytes));
+    content = ParseWebList(app_.sys.fromAnsi(*file.bytes));
     if (!rows.empty()) makeCurrent(0);
     return true;
 }
@@ -120,8 +125,7 @@ bool WebList::openList() {
     const FolderKeeper keeper(app_.sys);
     const auto chosen = app_.sys.chooseFile({.title = L"Load list of websites", .filter = kListFilter});
     if (!chosen || chosen->empty()) return false;
-    app_.settings.WebListFile = *chosen;
-    return load();
+    return read(*chosen);
 }
 
 bool WebList::confirmClose() {

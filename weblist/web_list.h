@@ -52,7 +52,7 @@ public:
     // "Website list :  <path>  ( <n> entries )"
     std::wstring caption() const;
 
-    // Reads WebListFile; false, after saying so, when it cannot be opened.
+    // Reads WebListFile; false, after saying so, when it cannot be opened or is too large to read whole.
     bool load();
     // Asks for a name and writes the lists there; false when nothing was written.
     bool save();
@@ -92,6 +92,8 @@ public:
     void openWebsites();
 
 private:
+    // The file becomes WebListFile unless it is too large, which changes nothing.
+    bool read(const std::wstring& path);
     bool refuseInGroupPanel();
     void append(std::wstring name, std::wstring address);
     void makeCurrent(int row);

@@ -92,7 +92,7 @@ protected:
 };
 
 // A locked file (neither read nor overwritten): the e2e BadSettings test.
-TEST_F(Core, MissingFileLeavesInitialValuesAndOnlyTheOldRuntimesErrorMinusOneIsReportedOnSaving) {
+TEST_F(Core, MissingOrTooLargeFilesLeaveInitialValuesAndOnlyTheOldRuntimesErrorMinusOneIsReportedOnSaving) {
     LoadSettings(app); app.SettingsFilePath = kIni; LoadSettings(app);
     const auto& m = sys.messages.at(0);
     EXPECT_EQ(std::tie(m.caption, m.icon, m.buttons), std::tuple(L"Orvane", MessageIcon::Critical, MessageButtons::Ok));
@@ -107,6 +107,9 @@ TEST_F(Core, MissingFileLeavesInitialValuesAndOnlyTheOldRuntimesErrorMinusOneIsR
     EXPECT_EQ(sys.messages.size(), 3u) << "two missing, then one failed save";
     EXPECT_EQ(sys.journal.back(),
               L"message Cannot save this file :\r\n\r\n" + kIni + kReason + L"\"Access is denied.\"\r\n");
+    const std::string tooLarge = File(true) + std::string(kMostFileBytes + 1 - File(true).size(), 'x');
+    load(tooLarge);  // just over what is read whole: neither read nor written over, quietly
+    EXPECT_EQ(std::tuple(app.settings == Settings{}, save() == tooLarge, sys.messages.size()), std::tuple(true, true, 3u));
 }
 
 TEST_F(Core, EveryLineReachesItsValueAndIsWrittenBackInPlace) {

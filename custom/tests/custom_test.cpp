@@ -3,6 +3,7 @@
 #include "app.h"
 #include "fake_system.h"
 #include "file_information.h"
+#include "helpers.h"
 #include "list_editor.h"
 #include "program_grids.h"
 #include "program_list.h"
@@ -168,10 +169,17 @@ TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
     EXPECT_TRUE(sys.messages.empty());
     EXPECT_EQ(std::pair(sys.fileRequests[0].title, sys.fileRequests[0].folder), std::pair(std::wstring(L"Select list of programs"), std::wstring(L"C:\\Lists")));
     EXPECT_EQ(table.DisplayNames[0], L"Other");
+    sys.addFile(L"C:\\Lists\\Huge.lst", std::string(kMostFileBytes + 1, 'x'));  // refused: the table and its file stay
+    sys.fileAnswers = {L"C:\\Lists\\Huge.lst"};
+    EXPECT_FALSE(editor.loadList());
+    EXPECT_EQ(std::tuple(sys.messages.at(0).text, table.DisplayNames[0], app.settings.CustomListFile),
+              std::tuple(L"Cannot load this file :\r\n\r\nC:\\Lists\\Huge.lst\r\n\r\nIt holds 67108865 bytes, more than the "
+                         L"67108864 the program reads. Nothing of it was loaded, and the file is left as it is.\r\n",
+                         L"Other", L"C:\\Lists\\Other.lst"));
     editor.insertLine(), sys.answers = {MessageAnswer::Cancel};
     EXPECT_FALSE(editor.loadList());
-    EXPECT_EQ(sys.messages.at(0).text, L"Save this list of files before loading a new one?\r\n\r\nC:\\Lists\\Other.lst");
-    EXPECT_EQ(sys.fileRequests.size(), 1u);
+    EXPECT_EQ(sys.messages.back().text, L"Save this list of files before loading a new one?\r\n\r\nC:\\Lists\\Other.lst");
+    EXPECT_EQ(sys.fileRequests.size(), 2u);
 
     // What a fresh file holds: the e2e CustomPrograms test.
     sys.fileAnswers = {L"C:\\Lists\\New.lst"}, sys.current = L"C:\\Work";
