@@ -56,8 +56,8 @@ struct Bar : MainWindowRoutines {
     std::wstring outcome(const Given& setup) {
         if (setup.setting) app.settings.*setup.setting = setup.value;
         if (*setup.present) sys.addFile(setup.present);
-        if (setup.caption.starts_with(L"icon ")) commands.runIcon(std::stoi(setup.caption.substr(5)));
-        else commands.dispatch(setup.caption);
+        const bool icon = setup.caption.starts_with(L"icon ");
+        icon ? commands.runIcon(std::stoi(setup.caption.substr(5))) : void(commands.dispatch(setup.caption));
         if (!sys.messages.empty()) return sys.messages.back().text;
         if (!sys.shellRequests.empty()) {
             const auto& r = sys.shellRequests.back();
