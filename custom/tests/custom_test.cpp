@@ -82,7 +82,7 @@ TEST_F(Custom, ReadingShortOddAndUnreadableFilesAndSwappingProgramFilesFolders) 
         ASSERT_EQ(sys.messages.size(), 1u);
         EXPECT_EQ(sys.messages[0].text, L"Cannot locate the following program/file:\r\n\r\n" + std::wstring(shown) + L"\r\n\r\n");
     }
-    // Found in a "Drive_" folder, the list keeps that path; missing Program Files programs take their twin's, same case.
+    // Found in a "Drive_" folder, the list keeps that path; a missing Program Files program takes its twin's case.
     sys.addFile(L"C:\\Program Files (x86)\\A\\a.exe"); sys.addFile(L"C:\\Program Files\\B\\b.EXE");
     sys.addFile(L"E:\\Drive_G\\My.lst", "C:\\Program Files\\A\\a.exe\r\nc:\\program files\\a\\a.exe\r\n"
                 "C:\\Program Files\\B\\b.EXE\r\nC:\\Program Files (x86)\\C\\c.exe\r\nC:\\Program Files\\D\\readme.txt\r\n");
@@ -115,42 +115,51 @@ TEST_F(Custom, GridsSplitTheFirstNSlotsHalfToEvenWithTheOddOnesLost) {
 // quoted for its blank: the core launch test.
 TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
     using Act = bool (CustomListEditor::*)();
-    // names: of lines 0, 1, 9, 10, 11, 62, 63 afterwards
-    struct Case { const char* name; int line; Act act; std::vector<std::wstring> names; int lineAfter; bool changed; };
+    // names: of lines 0, 1, 9, 10, 11, 62, 63 afterwards; programs move with their names, folders stay with their lines
+    struct Case {
+        const char* name;
+        int line;
+        Act act;
+        std::vector<std::wstring> names;
+        int lineAfter;
+        bool changed;  // and what the operation returns
+        MessageAnswer answer = MessageAnswer::Yes;  // to a question to delete
+    };
     const Act insert = nullptr, remove = &CustomListEditor::deleteLine, up = &CustomListEditor::moveUp,
               down = &CustomListEditor::moveDown;  // insert: insertLine, which always acts
+    const std::vector<std::wstring> same = {L"N0", L"N1", L"N9", L"N10", L"N11", L"N62", L"N63"};
     const Case cases[] = {
         {"insert drops the last line", 0, insert, {L"", L"N0", L"N8", L"N9", L"N10", L"N61", L"N62"}, 0, true},
         {"delete doubles the last line", 10, remove, {L"N0", L"N1", L"N9", L"N11", L"N12", L"N63", L"N63"}, 10, true},
         {"delete of the last line", 63, remove, {L"N0", L"N1", L"N9", L"N10", L"N11", L"N62", L""}, 63, true},
         {"up", 10, up, {L"N0", L"N1", L"N10", L"N9", L"N11", L"N62", L"N63"}, 9, true},
-        {"up on line 0", 0, up, {L"N0", L"N1", L"N9", L"N10", L"N11", L"N62", L"N63"}, 0, false},
+        {"up on line 0", 0, up, same, 0, false},
         {"down", 0, down, {L"N1", L"N0", L"N9", L"N10", L"N11", L"N62", L"N63"}, 1, true},
-        {"down on line 63", 63, down, {L"N0", L"N1", L"N9", L"N10", L"N11", L"N62", L"N63"}, 63, false},
+        {"down on line 63", 63, down, same, 63, false},
+        {"No keeps the line", 10, remove, same, 10, false, MessageAnswer::No},
     };
     for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
         table = {};
         for (std::size_t i = 0; i < kCustomEntries; ++i) {
             const std::wstring n = std::to_wstring(i);
             std::tie(table.DisplayNames[i], table.ProgramPaths[i], table.StartupFolders[i]) = std::tuple(L"N" + n, L"P" + n, L"F" + n);
         }
-        sys.answers = {MessageAnswer::Yes};
+        sys.answers = {c.answer};
         CustomListEditor editor(app, table); editor.currentLine = c.line;
-        c.act ? (editor.*c.act)() : (editor.insertLine(), true);
+        EXPECT_EQ(c.act ? (editor.*c.act)() : (editor.insertLine(), true), c.changed);
         std::vector<std::wstring> names;
         for (std::size_t i : {0, 1, 9, 10, 11, 62, 63}) {
-            names.push_back(table.DisplayNames[i]);
-            EXPECT_EQ(table.ProgramPaths[i], table.DisplayNames[i].empty() ? L"" : L"P" + table.DisplayNames[i].substr(1)) << c.name;
-            EXPECT_EQ(table.StartupFolders[i], L"F" + std::to_wstring(i)) << c.name << ": folders stay with their lines";
+            const std::wstring& name = names.emplace_back(table.DisplayNames[i]);
+            const std::wstring program = name.empty() ? L"" : L"P" + name.substr(1);
+            EXPECT_EQ(table.ProgramPaths[i] + L"|" + table.StartupFolders[i], program + L"|F" + std::to_wstring(i));
         }
-        EXPECT_EQ(names, c.names) << c.name;
-        EXPECT_EQ(std::pair(editor.currentLine, editor.changed), std::pair(c.lineAfter, c.changed)) << c.name;
+        EXPECT_EQ(names, c.names);
+        EXPECT_EQ(std::pair(editor.currentLine, editor.changed), std::pair(c.lineAfter, c.changed));
     }
-    ASSERT_EQ(sys.messages.size(), 2u);
+    ASSERT_EQ(sys.messages.size(), 3u);
     EXPECT_EQ(std::tie(sys.messages[0].text, sys.messages[0].buttons),
               std::tuple(L"Delete this item from the list?\r\n\r\nN10\r\nP10\t\r\n", MessageButtons::YesNoDefaultNo));
-    sys.answers = {MessageAnswer::No}; CustomListEditor editor(app, table);
-    EXPECT_FALSE(editor.deleteLine() || editor.changed) << "No keeps the line";
 }
 
 TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
@@ -160,14 +169,14 @@ TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
     editor.currentLine = 0, editor.takeEntry(L"", L"C:\\Else");
     EXPECT_EQ(table.StartupFolders[0], L"C:\\F0") << "an empty path returns nothing";
     editor.takeEntry(L"C:\\Q.exe", L"");
-    EXPECT_EQ(std::pair(table.ProgramPaths[0], table.StartupFolders[0]), std::pair(std::wstring(L"C:\\Q.exe"), std::wstring()));
+    EXPECT_EQ(table.ProgramPaths[0] + L"|" + table.StartupFolders[0], L"C:\\Q.exe|");
 
     // Loading straight away asks nothing; after a change it asks, and Cancel stops everything.
     sys.addFile(L"C:\\Lists\\Other.lst", "Other\r\n"); sys.folders = {L"C:\\Work", L"C:\\Lists"};
     sys.fileAnswers = {L"C:\\Lists\\Other.lst"};
     ASSERT_TRUE(editor.loadList());
     EXPECT_TRUE(sys.messages.empty());
-    EXPECT_EQ(std::pair(sys.fileRequests[0].title, sys.fileRequests[0].folder), std::pair(std::wstring(L"Select list of programs"), std::wstring(L"C:\\Lists")));
+    EXPECT_EQ(sys.fileRequests[0].title + L"|" + sys.fileRequests[0].folder, L"Select list of programs|C:\\Lists");
     EXPECT_EQ(table.DisplayNames[0], L"Other");
     sys.addFile(L"C:\\Lists\\Huge.lst", std::string(kMostFileBytes + 1, 'x'));  // refused: the table and its file stay
     sys.fileAnswers = {L"C:\\Lists\\Huge.lst"};
@@ -181,13 +190,12 @@ TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
     EXPECT_EQ(sys.messages.back().text, L"Save this list of files before loading a new one?\r\n\r\nC:\\Lists\\Other.lst");
     EXPECT_EQ(sys.fileRequests.size(), 2u);
 
-    // What a fresh file holds: the e2e CustomPrograms test.
+    // What a fresh file holds, the dialog's title and the editor's caption afterwards: the e2e CustomPrograms test.
     sys.fileAnswers = {L"C:\\Lists\\New.lst"}, sys.current = L"C:\\Work";
     ASSERT_TRUE(editor.saveList());
     const FileRequest& save = sys.fileRequests.back();
     EXPECT_TRUE(save.save);
     EXPECT_EQ(save.title + L"|" + save.preset + L"|" + save.folder + L"|" + save.defaultExtension, L"Browse files|Other.lst|C:\\Lists|lst");
-    EXPECT_EQ(EditorCaption(app.settings.CustomListFile), L"Custom programs ( C:\\Lists\\New.lst )");
     EXPECT_TRUE(sys.current == L"C:\\Work" && !editor.changed) << "the folder comes back";
 }
 

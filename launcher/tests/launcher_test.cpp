@@ -41,16 +41,23 @@ TEST(Dispatch, EveryItemReachesACommandButTheDoNothingOnes) {
     EXPECT_EQ(FindDispatchRow(L"&A", twice)->command, Command::About) << "the first equal caption wins";
 }
 
-struct Given { std::wstring Settings::*setting = nullptr; const wchar_t *value = L"", *present = L""; };  // present: exists
+// A menu command by its caption, or "icon <n>" for a click on icon n of the strip; what it did, as Bar::outcome says;
+// the setting given a value and the file made to exist first.
+struct Given {
+    std::wstring caption, outcome;
+    std::wstring Settings::*setting = nullptr;
+    const wchar_t *value = L"", *present = L"";
+};
 
 // The bar's commands on a machine of their own, with the main window's routines recorded by name.
 struct Bar : MainWindowRoutines {
     Bar() { app.ProgramFolder = L"C:\\P"; app.ProgramFilesFolder = L"C:\\Program Files\\"; app.MainWindowRef = 7; }
     // What one command, or a click on an icon, did: its message, shell request, start, routine or system call.
-    std::wstring outcome(const wchar_t* caption, const Given& setup, int icon = -1) {
+    std::wstring outcome(const Given& setup) {
         if (setup.setting) app.settings.*setup.setting = setup.value;
         if (*setup.present) sys.addFile(setup.present);
-        icon < 0 ? void(commands.dispatch(caption)) : commands.runIcon(icon);
+        const bool icon = setup.caption.starts_with(L"icon ");
+        icon ? commands.runIcon(std::stoi(setup.caption.substr(5))) : void(commands.dispatch(setup.caption));
         if (!sys.messages.empty()) return sys.messages.back().text;
         if (!sys.shellRequests.empty()) {
             const auto& r = sys.shellRequests.back();
@@ -62,15 +69,24 @@ struct Bar : MainWindowRoutines {
     }
 
     std::wstring inputBox(const std::wstring&, const std::wstring& preset) override { calls.push_back(L"input " + preset); return typed; }
-    void call(const std::wstring& name) { calls.push_back(name); }
-    void showAbout() override { call(L"about"); } void showProgramLocations() override { call(L"locations"); }
-    void showYourProgram() override { call(L"your program"); } void toggleDesktop() override { call(L"desktop"); }
-    void exitProgram() override { call(L"exit"); } void useScreenWidth() override { call(L"width"); }
-    void changeIconSize(int step) override { call(L"size " + std::to_wstring(step)); }
-    void toggleIconStrip() override { call(L"icons"); } void chooseSkin() override { call(L"skin"); }
-    void toggleTopBottom() override { call(L"top/bottom"); } void chooseMenuFont() override { call(L"font"); }
-    void showCustomPrograms() override { call(L"custom programs"); }
-    void showWebList() override { call(L"web list"); } void showWallpaper() override { call(L"wallpaper"); }
+// Each of the other routines only records that it ran, by the name given.
+#define ORVANE_RECORDS(routine, name) \
+    void routine() override { calls.push_back(name); }
+    ORVANE_RECORDS(showAbout, L"about")
+    ORVANE_RECORDS(showProgramLocations, L"locations")
+    ORVANE_RECORDS(showYourProgram, L"your program")
+    ORVANE_RECORDS(toggleDesktop, L"desktop")
+    ORVANE_RECORDS(exitProgram, L"exit")
+    ORVANE_RECORDS(useScreenWidth, L"width")
+    ORVANE_RECORDS(toggleIconStrip, L"icons")
+    ORVANE_RECORDS(chooseSkin, L"skin")
+    ORVANE_RECORDS(toggleTopBottom, L"top/bottom")
+    ORVANE_RECORDS(chooseMenuFont, L"font")
+    ORVANE_RECORDS(showCustomPrograms, L"custom programs")
+    ORVANE_RECORDS(showWebList, L"web list")
+    ORVANE_RECORDS(showWallpaper, L"wallpaper")
+#undef ORVANE_RECORDS
+    void changeIconSize(int step) override { calls.push_back(L"size " + std::to_wstring(step)); }
 
     testing::FakeSystem sys;
     App app{sys};
@@ -79,42 +95,35 @@ struct Bar : MainWindowRoutines {
     MainCommands commands{app, *this};
 };
 
-// Suite tools beside the program, Office programs and documents in their tool: also the e2e Commands tests.
-TEST(Commands, StartWhatTheirCaptionsSay) {
+// Suite tools beside the program, Office programs and documents in their tool: also the e2e Commands tests. The input
+// box is cancelled.
+TEST(Commands, StartWhatTheirCaptionsSayAndIconsRunTheirCommandsUnderTheWaitCursorAndWebmailWithoutAsking) {
     using S = Settings;
     const std::wstring missing = L"Cannot locate the following program/file:\r\n\r\n";
-    const struct { const wchar_t* caption; Given setup; std::wstring outcome; } cases[] = {
-        {L"&File manager", {nullptr, L"", L"C:\\P\\TS_Files.exe"}, L"Open C:\\P\\TS_Files.exe [] in C:\\P -1"},
-        {L"Load &Deadlines file", {&S::DeadlinesFile, L"G:\\a.VRT", L"G:\\a.VRT"}, L"Open C:\\P\\TS_Outliner.exe [G:\\a.VRT] in C:\\P -1"},
-        {L"Load Addr&esses file", {&S::AddressesFile, L"G:\\a.vrt", L"D:\\Drive_G\\a.vrt"},
-         L"Open C:\\P\\TS_Grid.exe [D:\\Drive_G\\a.vrt] in C:\\P -1"},
-        {L"Load Addr&esses file", {}, missing + L"( Filename empty! )\r\n\r\n"},
-        {L"&Custom browser", {&S::CustomBrowser, L"C:\\W\\b.exe", L"C:\\W\\b.exe"}, L"Open C:\\W\\b.exe [] in C:\\W -1"},
-        {L"&Custom browser", {&S::CustomBrowser, L"\"C:\\W\\b.exe\"", L"C:\\W\\b.exe"}, missing + L"\"C:\\W\\b.exe\"\r\n\r\n"},
-        {L"Web interface U&RL", {&S::WebmailUrl, L"https://old.example.org"}, L"input https://old.example.org"},  // cancelled
-        {L"&Windows Explorer", {}, L"verb explore C:\\Work in C:\\Work owner 7 show 1"},
-        {L"Wa&llpaper", {}, L"wallpaper"}, {L"&Wallpaper", {}, L"nothing"},
+    const Given cases[] = {
+        {L"&File manager", L"Open C:\\P\\TS_Files.exe [] in C:\\P -1", nullptr, L"", L"C:\\P\\TS_Files.exe"},
+        {L"Load &Deadlines file", L"Open C:\\P\\TS_Outliner.exe [G:\\a.VRT] in C:\\P -1", &S::DeadlinesFile, L"G:\\a.VRT",
+         L"G:\\a.VRT"},
+        {L"Load Addr&esses file", L"Open C:\\P\\TS_Grid.exe [D:\\Drive_G\\a.vrt] in C:\\P -1", &S::AddressesFile,
+         L"G:\\a.vrt", L"D:\\Drive_G\\a.vrt"},
+        {L"Load Addr&esses file", missing + L"( Filename empty! )\r\n\r\n"},
+        {L"&Custom browser", L"Open C:\\W\\b.exe [] in C:\\W -1", &S::CustomBrowser, L"C:\\W\\b.exe", L"C:\\W\\b.exe"},
+        {L"&Custom browser", missing + L"\"C:\\W\\b.exe\"\r\n\r\n", &S::CustomBrowser, L"\"C:\\W\\b.exe\"", L"C:\\W\\b.exe"},
+        {L"Web interface U&RL", L"input https://old.example.org", &S::WebmailUrl, L"https://old.example.org"},
+        {L"&Windows Explorer", L"verb explore C:\\Work in C:\\Work owner 7 show 1"},
+        {L"Wa&llpaper", L"wallpaper"},
+        {L"&Wallpaper", L"nothing"},
+        {L"icon 9", L"start C:\\W\\b.exe https://mail.example.org", &S::CustomBrowser, L"C:\\W\\b.exe", L"C:\\W\\b.exe"},
+        {L"icon 0", L"Open C:\\P\\TellmarkSet.exe [] in C:\\P -1"},
+        {L"icon 6", L"desktop"},
+        {L"icon 26", L"events"},
     };
-    for (const auto& c : cases) EXPECT_EQ(Bar().outcome(c.caption, c.setup), c.outcome) << c.caption;
-}
-
-// The prompt and the browser opened: the e2e OfficeProgramsAndWebmail test; a cancelled question: the table above.
-TEST(Commands, WebmailTypedWithoutABrowserIsKeptAndItsStartFailsQuietly) {
-    Bar bar; bar.typed = L"https://mail.example.org/?a b";
-    EXPECT_EQ(bar.outcome(L"Web interface U&RL", {}), L"input ") << "nothing shown or started after the question";
-    EXPECT_EQ(std::pair(bar.app.settings.WebmailUrl, bar.app.LastLaunchResult), std::pair(bar.typed, std::int16_t(0)));
-}
-
-TEST(Commands, IconsRunTheirCommandsUnderTheWaitCursorAndWebmailWithoutAsking) {
-    using S = Settings;
-    const struct { int icon; Given setup; std::wstring outcome; } cases[] = {
-        {9, {&S::CustomBrowser, L"C:\\W\\b.exe", L"C:\\W\\b.exe"}, L"start C:\\W\\b.exe https://mail.example.org"},
-        {0, {}, L"Open C:\\P\\TellmarkSet.exe [] in C:\\P -1"}, {6, {}, L"desktop"}, {26, {}, L"events"}};
-    for (const auto& c : cases) {
+    for (const Given& c : cases) {
         Bar bar; bar.app.settings.WebmailUrl = L"https://mail.example.org";
-        EXPECT_EQ(bar.outcome(nullptr, c.setup, c.icon), c.outcome) << c.icon;
+        EXPECT_EQ(bar.outcome(c), c.outcome) << c.caption;
         const auto& journal = bar.sys.journal;
-        EXPECT_EQ(journal.front() + journal.end()[-2] + journal.back(), L"waitcursorevents") << c.icon;
+        const bool icon = c.caption.starts_with(L"icon ");
+        EXPECT_TRUE(!icon || journal.front() + journal.end()[-2] + journal.back() == L"waitcursorevents") << c.caption;
     }
     // Each icon's picture carries the large sizes the strip draws at.
     std::ifstream table(ORVANE_MENU_ICONS_TABLE);
@@ -123,6 +132,13 @@ TEST(Commands, IconsRunTheirCommandsUnderTheWaitCursorAndWebmailWithoutAsking) {
         if (flag.find("large") == 0 || flag.find(" large") != std::string::npos) large.insert(key);
     for (const StripIcon& icon : StripIcons())
         EXPECT_TRUE(large.count(std::string(icon.iconKey.begin(), icon.iconKey.end()))) << std::wstring(icon.row.caption);
+}
+
+// The prompt and the browser opened: the e2e OfficeProgramsAndWebmail test; a cancelled question: the table above.
+TEST(Commands, WebmailTypedWithoutABrowserIsKeptAndItsStartFailsQuietly) {
+    Bar bar; bar.typed = L"https://mail.example.org/?a b";
+    EXPECT_EQ(bar.outcome({L"Web interface U&RL", L""}), L"input ") << "nothing shown or started after the question";
+    EXPECT_EQ(std::pair(bar.app.settings.WebmailUrl, bar.app.LastLaunchResult), std::pair(bar.typed, std::int16_t(0)));
 }
 
 TEST(Layout, SizesStepUnevenlyAndTheBarsShapesComeBack) {
