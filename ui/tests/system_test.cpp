@@ -1,5 +1,5 @@
-// The Win32 system interface against the real file system, registry, shell,
-// windows and the versions Wine pretends to be.
+// The Win32 system interface against the real file system, registry, shell, windows and the versions Wine pretends to
+// be; real launches recorded by the probe (command lines are the unit tests' business, menus the end-to-end tests').
 #include <gtest/gtest.h>
 
 #include <process.h>
@@ -10,6 +10,7 @@
 #include "app.h"
 #include "handles.h"
 #include "helpers.h"
+#include "launch.h"
 #include "resource.h"
 #include "win32_system.h"
 #include "win_support.h"
@@ -18,13 +19,24 @@
 namespace orvane::ui {
 namespace {
 
+using namespace std::chrono_literals;
 using namespace testsupport;
 
+// The real system, with messages recorded instead of shown, so launches that report need no user to answer them.
+struct RecordingSystem : Win32System {
+    MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon, MessageButtons) override {
+        messages.push_back(caption + L": " + text);
+        return MessageAnswer::Ok;
+    }
+    std::vector<std::wstring> messages;
+};
+
+// A folder of its own for each test, its name beyond ASCII.
 class RealSystem : public ::testing::Test {
 protected:
     const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"),
-        L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    Win32System sys;
+        L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()) + L" \u00e4");
+    RecordingSystem sys;
 };
 
 TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
@@ -112,6 +124,41 @@ TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
     sys.processPendingEvents();
     EXPECT_TRUE(cancelled);
     DestroyWindow(dialog);
+}
+
+TEST_F(RealSystem, ADocumentOfTheCurrentFolderOpensInItsToolThenRunningItBringsItForwardAndExploreOpensTheFolder) {
+    const std::wstring current = FreshFolder(folder, L"current dir");
+    CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder);
+    WriteBytes(folder + L"\\probe.window", "");
+    const FolderKeeper keeper(sys);
+    sys.setCurrentFolder(current);
+    App app(sys);
+    std::wstring program = folder + L"\\probe.exe", document = L"n\u00f6tes b.txt";
+    LaunchSuiteProgram(app, program, document);
+    const auto records = ReadProbeLog(folder + L"\\probe.log", 1);
+    ASSERT_EQ(records.size(), 1u);
+    EXPECT_EQ(records[0].commandLine, Utf8(program + L" \"" + current + L"\\n\u00f6tes b.txt\""));
+    EXPECT_EQ(records[0].folder, Utf8(current));
+    EXPECT_TRUE(sys.messages.empty() && app.LastLaunchResult != 0);
+
+    // Shown, not just created: only a visible window counts as running.
+    const HWND tool = FindProcessWindow(0, L"Static", L"probe", 10s);
+    ASSERT_NE(tool, nullptr);
+    const UniqueWindow other(CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, 0, 0, 0, 0));
+    SetForegroundWindow(other.get());
+    LaunchSuiteProgram(app, program, document);
+    EXPECT_EQ(sys.messages, std::vector<std::wstring>{L"Orvane: Program running already"});
+    Sleep(800);  // time for a start that should not happen to show, and for the switch to the tool
+    const std::size_t starts = ReadProbeLog(folder + L"\\probe.log").size();
+    EXPECT_EQ(std::tuple(app.LastLaunchResult, starts, GetForegroundWindow()), std::tuple(1, 1u, tool));
+    PostMessageW(tool, WM_CLOSE, 0, 0);
+
+    ExploreFolder(app, 0);
+    EXPECT_GT(app.LastLaunchResult, 32);
+    // Wine's file explorer titles its window with the folder's name.
+    const HWND explorer = FindProcessWindow(0, L"ExplorerWClass", L"current dir", 10s);
+    ASSERT_NE(explorer, nullptr);
+    PostMessageW(explorer, WM_CLOSE, 0, 0);
 }
 
 TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
