@@ -1,6 +1,5 @@
-// probe.exe: records its exact command line and working folder in probe.log
-// beside itself, a line per start, UTF-8. With a file "probe.window" beside it,
-// it also shows a window titled with its name (no ".exe") until it is closed.
+// probe.exe: records its exact command line and working folder in probe.log beside itself, a line per start, UTF-8.
+// With a file "probe.window" beside it, it also shows a window titled with its name (no ".exe") until it is closed.
 #include <windows.h>
 
 #include "win_support.h"

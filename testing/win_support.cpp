@@ -87,17 +87,21 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title) {
+HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title, std::chrono::milliseconds wait) {
     const std::wstring_view wanted = title ? title : L"";
     const auto matches = [&](const std::wstring& text) {
         return wanted.ends_with(L'*') ? text.starts_with(wanted.substr(0, wanted.size() - 1)) : text == wanted;
     };
-    for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr;) {
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        if ((owner == processId || !processId) && IsWindowVisible(window) && (!title || matches(TextOf(window)))) return window;
-    }
-    return nullptr;
+    HWND found = nullptr;
+    WaitFor([&] {
+        for (found = nullptr; (found = FindWindowExW(nullptr, found, className, nullptr)) != nullptr;) {
+            DWORD owner = 0;
+            GetWindowThreadProcessId(found, &owner);
+            if ((owner == processId || !processId) && IsWindowVisible(found) && (!title || matches(TextOf(found)))) return true;
+        }
+        return false;
+    }, wait);
+    return found;
 }
 
 std::vector<ProbeRecord> ReadProbeLog(const std::wstring& logPath, std::size_t atLeast) {

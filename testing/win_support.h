@@ -28,8 +28,9 @@ void RemoveTree(const std::wstring& folder);
 // Polls until the condition holds or the time is up; true when it held.
 bool WaitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout);
 // A visible top-level window of the process (of any, for 0), by class and title when given; a title ending in "*"
-// matches every title that starts with the rest.
-HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title = nullptr);
+// matches every title that starts with the rest. Waits up to the given time for one to show; null if none did.
+HWND FindProcessWindow(DWORD processId, const wchar_t* className, const wchar_t* title = nullptr,
+                       std::chrono::milliseconds wait = std::chrono::milliseconds(0));
 // Text of another process's window or control, through WM_GETTEXT.
 std::wstring TextOf(HWND window);
 

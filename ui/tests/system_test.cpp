@@ -1,15 +1,17 @@
-// The Win32 system interface against the real file system, registry, shell,
-// windows and the versions Wine pretends to be.
+// The Win32 system interface against the real file system, registry, shell, windows and the versions Wine pretends to
+// be; real launches recorded by the probe (command lines are the unit tests' business, menus the end-to-end tests').
 #include <gtest/gtest.h>
 
 #include <process.h>
 #include <shlobj.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "app.h"
 #include "handles.h"
 #include "helpers.h"
+#include "launch.h"
 #include "resource.h"
 #include "win32_system.h"
 #include "win_support.h"
@@ -18,13 +20,24 @@
 namespace orvane::ui {
 namespace {
 
+using namespace std::chrono_literals;
 using namespace testsupport;
 
+// The real system, with messages recorded instead of shown, so launches that report need no user to answer them.
+struct RecordingSystem : Win32System {
+    MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon, MessageButtons) override {
+        messages.push_back(caption + L": " + text);
+        return MessageAnswer::Ok;
+    }
+    std::vector<std::wstring> messages;
+};
+
+// A folder of its own for each test, its name beyond ASCII.
 class RealSystem : public ::testing::Test {
 protected:
     const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"),
-        L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    Win32System sys;
+        L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()) + L" \u00e4");
+    RecordingSystem sys;
 };
 
 TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
@@ -33,7 +46,6 @@ TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
     const std::tuple<std::wstring, bool, bool> paths[] = {  // path, a file, a file or folder
         {file, true, true},          {folder, false, true},   {folder + L"\\", false, true},
         {L"C:\\", false, true},      {L"", false, false},     {folder + L"\\missing.txt", false, false},
-        {folder + L"\\missing", false, false},
         {folder + L"\\a*.t?t", true, false},  // a search, as the old runtime's existence test was
     };
     for (const auto& [path, isFile, exists] : paths) {
@@ -72,7 +84,7 @@ TEST_F(RealSystem, AnsiCodecFollowsTheCodePage) {
     EXPECT_EQ(sys.fromAnsi("D\xFCsseldorf \x80"), L"D\u00fcsseldorf \u20ac");
 }
 
-TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStrings) {
+TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStringsAndTheDocumentsFolderIsTheSystems) {
     const wchar_t* key = L"Software\\Orvane Tests";
     const DWORD number = 7;
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"text", REG_SZ, L"C:\\Some where", sizeof L"C:\\Some where");
@@ -83,16 +95,12 @@ TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStrings) {
         EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, value), std::nullopt) << Utf8(value);
     EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, L"Software\\No Such Key", L"x"), std::nullopt);
     RegDeleteTreeW(HKEY_CURRENT_USER, key);
-}
-
-TEST_F(RealSystem, ProgramFilesAndDocumentsFoldersAreTheSystems) {
+    // The program files folder from the registry: the end-to-end tests see it in the path of Excel.
     App app(sys);
     FindSystemFolders(app);
-    for (auto [csidl, found] : {std::pair(CSIDL_PROGRAM_FILES, &app.ProgramFilesFolder), std::pair(CSIDL_PERSONAL, &app.DocumentsFolder)}) {
-        wchar_t expected[MAX_PATH];
-        ASSERT_EQ(SHGetFolderPathW(nullptr, csidl, nullptr, 0, expected), S_OK);
-        EXPECT_EQ(*found, std::wstring(expected) + L"\\");
-    }
+    wchar_t documents[MAX_PATH];
+    ASSERT_EQ(SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, 0, documents), S_OK);
+    EXPECT_EQ(app.DocumentsFolder, std::wstring(documents) + L"\\");
 }
 
 TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
@@ -114,6 +122,41 @@ TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
     DestroyWindow(dialog);
 }
 
+TEST_F(RealSystem, ADocumentOfTheCurrentFolderOpensInItsToolThenRunningItBringsItForwardAndExploreOpensTheFolder) {
+    const std::wstring current = FreshFolder(folder, L"current dir");
+    CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder);
+    WriteBytes(folder + L"\\probe.window", "");
+    const FolderKeeper keeper(sys);
+    sys.setCurrentFolder(current);
+    App app(sys);
+    std::wstring program = folder + L"\\probe.exe", document = L"n\u00f6tes b.txt";
+    LaunchSuiteProgram(app, program, document);
+    const auto records = ReadProbeLog(folder + L"\\probe.log", 1);
+    ASSERT_EQ(records.size(), 1u);
+    EXPECT_EQ(records[0].commandLine, Utf8(program + L" \"" + current + L"\\n\u00f6tes b.txt\""));
+    EXPECT_EQ(records[0].folder, Utf8(current));
+    EXPECT_TRUE(sys.messages.empty() && app.LastLaunchResult != 0);
+
+    // Shown, not just created: only a visible window counts as running.
+    const HWND tool = FindProcessWindow(0, L"Static", L"probe", 10s);
+    ASSERT_NE(tool, nullptr);
+    const UniqueWindow other(CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, 0, 0, 0, 0));
+    SetForegroundWindow(other.get());
+    LaunchSuiteProgram(app, program, document);
+    EXPECT_EQ(sys.messages, std::vector<std::wstring>{L"Orvane: Program running already"});
+    Sleep(800);  // time for a start that should not happen to show, and for the switch to the tool
+    const std::size_t starts = ReadProbeLog(folder + L"\\probe.log").size();
+    EXPECT_EQ(std::tuple(app.LastLaunchResult, starts, GetForegroundWindow()), std::tuple(1, 1u, tool));
+    PostMessageW(tool, WM_CLOSE, 0, 0);
+
+    ExploreFolder(app, 0);
+    EXPECT_GT(app.LastLaunchResult, 32);
+    // Wine's file explorer titles its window with the folder's name.
+    const HWND explorer = FindProcessWindow(0, L"ExplorerWClass", L"current dir", 10s);
+    ASSERT_NE(explorer, nullptr);
+    PostMessageW(explorer, WM_CLOSE, 0, 0);
+}
+
 TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
     constexpr DWORD kShown = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
     const auto make = [](const wchar_t* title, DWORD style, DWORD exStyle = 0, HWND parent = nullptr) {
@@ -125,22 +168,18 @@ TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
         make(L"Child", WS_CHILD | WS_VISIBLE, 0, plain.get()), make(L"Owned", kShown, 0, plain.get()),
         make(L"Owned popup app window", WS_POPUP | WS_VISIBLE, WS_EX_APPWINDOW, plain.get()),
         make(L"Tool", kShown, WS_EX_TOOLWINDOW), make(L"", kShown)};
-    ASSERT_TRUE(bar && plain && lower && std::ranges::all_of(others, [](const UniqueWindow& w) { return bool(w); }));
+    ASSERT_TRUE(bar && plain && lower && std::ranges::none_of(others, std::logical_not<>()));
     SetWindowPos(plain.get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     SetWindowPos(lower.get(), plain.get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 
     Win32System sys;
     App app(sys);
     app.MainWindowRef = ToRef(bar.get()), RefreshWindowList(app);
-    std::vector<std::wstring> ours;  // in list order
-    for (const WindowListEntry& entry : app.windowList) {
-        DWORD process = 0;
-        GetWindowThreadProcessId(ToHwnd(entry.handle), &process);
-        if (process == GetCurrentProcessId()) ours.push_back(entry.title);
-    }
-    const auto at = [&](const wchar_t* title) { return std::find(ours.begin(), ours.end(), title) - ours.begin(); };
-    EXPECT_LT(at(L"Listed plain"), at(L"Listed lower"));
-    std::sort(ours.begin(), ours.end());
+    std::vector<std::wstring> ours;  // the listed windows of this thread, in list order
+    for (const WindowListEntry& entry : app.windowList)
+        if (GetWindowThreadProcessId(ToHwnd(entry.handle), nullptr) == GetCurrentThreadId()) ours.push_back(entry.title);
+    EXPECT_LT(std::ranges::find(ours, L"Listed plain"), std::ranges::find(ours, L"Listed lower"));
+    std::ranges::sort(ours);
     // An owned popup reports its owner as parent, so it stays out too.
     EXPECT_EQ(ours, (std::vector<std::wstring>{L"Listed lower", L"Listed owned app window", L"Listed plain"}));
     EXPECT_EQ(FindListedWindow(app.windowList, L"Listed plain"), ToRef(plain.get()));
