@@ -28,7 +28,8 @@ RECT PixelWorkArea() {
 
 }  // namespace
 
-MainWindow::MainWindow(App& app) : app_(app), background_(CreateSolidBrush(kMainBackColor)) {}
+MainWindow::MainWindow(App& app, Skin& skin)
+    : app_(app), skin_(skin), background_(CreateSolidBrush(kMainBackColor)) {}
 
 MainWindow::~MainWindow() {
     if (hwnd()) DestroyWindow(hwnd());
@@ -62,7 +63,7 @@ bool MainWindow::open() {
                 applicationWindow_.get()) ||
         !strip_.create(hwnd()))
         return false;
-    Skin::instance().join(hwnd());  // the first of the program's windows
+    skin_.join(hwnd());  // the first of the program's windows
 
     if (LoadMainWindow(app_, *this, state_) == LoadOutcome::HandedOver) return false;
     ShowWindow(hwnd(), SW_SHOWNORMAL);
@@ -91,11 +92,11 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam) unload();  // the session ends: keep the settings
         return 0;
     case WM_DESTROY:
-        Skin::instance().leave(hwnd());
+        skin_.leave(hwnd());
         PostQuitMessage(0);
         return 0;
     case WM_ERASEBKGND:
-        Skin::instance().paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
+        skin_.paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
         return TRUE;
     case WM_SIZE:
         // The bar owns the wallpaper, and a minimised owner takes the cover along: not while it shows.
@@ -186,7 +187,7 @@ void MainWindow::resized() {
     strip_.place(strip, iconLeft, TwipsToPixels(s.IconSize, dpi));
 }
 
-void MainWindow::setMenuColours() { menuBar_.setColours(hwnd(), Skin::instance().menuColours()); }
+void MainWindow::setMenuColours() { menuBar_.setColours(hwnd(), skin_.menuColours()); }
 
 RECT MainWindow::pixelRect() {
     RECT r{};
@@ -261,14 +262,14 @@ void MainWindow::layIconStrip() { changeIconSize(0); }
 
 // Every open window takes the skin; the menu bar takes its colours when told.
 void MainWindow::applySkin(const std::wstring& skinFile) {
-    Skin::instance().load(skinFile);
-    Skin::instance().applyToAll();
+    skin_.load(skinFile);
+    skin_.applyToAll();
 }
 
 void MainWindow::buildMenuBar() {
     const Settings& s = app_.settings;
     menuBar_.setFont(s.ListFontName, s.ListFontSize, s.ListFontBold != 0);
-    menuBar_.setColours(hwnd(), Skin::instance().menuColours());
+    menuBar_.setColours(hwnd(), skin_.menuColours());
     menuBar_.build(hwnd());  // in those colours
 }
 
@@ -281,11 +282,11 @@ void MainWindow::takeOpeningSize() {
 }
 
 std::wstring MainWindow::inputBox(const std::wstring& prompt, const std::wstring& preset) {
-    return ShowInputBox(app_, hwnd(), prompt, preset);
+    return ShowInputBox(app_, skin_, hwnd(), prompt, preset);
 }
-void MainWindow::showAbout() { ShowAboutDialog(app_, hwnd()); }
-void MainWindow::showProgramLocations() { ShowProgramLocations(app_, hwnd()); }
-void MainWindow::showYourProgram() { ShowYourProgram(app_, hwnd()); }
+void MainWindow::showAbout() { ShowAboutDialog(app_, skin_, hwnd()); }
+void MainWindow::showProgramLocations() { ShowProgramLocations(app_, skin_, hwnd()); }
+void MainWindow::showYourProgram() { ShowYourProgram(app_, skin_, hwnd()); }
 
 // The shell's own desktop toggle; a system without it simply does nothing.
 void MainWindow::toggleDesktop() {
@@ -324,7 +325,7 @@ void MainWindow::toggleTopBottom() {
 }
 
 void MainWindow::chooseSkin() {
-    ShowSkinChooser(app_, hwnd(), {[this] { applySkin(app_.settings.SkinFile); }, [this] { setMenuColours(); }});
+    ShowSkinChooser(app_, skin_, hwnd(), {[this] { applySkin(app_.settings.SkinFile); }, [this] { setMenuColours(); }});
 }
 void MainWindow::chooseMenuFont() {
     Settings& s = app_.settings;
@@ -335,12 +336,12 @@ void MainWindow::chooseMenuFont() {
     s.ListFontBold = chosen->bold ? -1 : 0;
     buildMenuBar();  // the items are measured anew in the new font
 }
-void MainWindow::showCustomPrograms() { ShowCustomPrograms(app_, customPrograms_, commands_, hwnd()); }
+void MainWindow::showCustomPrograms() { ShowCustomPrograms(app_, skin_, customPrograms_, commands_, hwnd()); }
 // Also asked for by the custom programs window, which then owns the list.
 void MainWindow::showWebList() {
     HWND active = GetActiveWindow();
-    ShowWebList(app_, commands_, active ? active : hwnd());
+    ShowWebList(app_, skin_, commands_, active ? active : hwnd());
 }
-void MainWindow::showWallpaper() { ShowWallpaper(app_, hwnd()); }
+void MainWindow::showWallpaper() { ShowWallpaper(app_, skin_, hwnd()); }
 
 }  // namespace orvane::ui

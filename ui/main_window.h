@@ -14,6 +14,8 @@
 
 namespace orvane::ui {
 
+class Skin;
+
 // The class names a second copy looks for.
 inline constexpr wchar_t kApplicationWindowClass[] = L"Orvane.Application";
 inline constexpr wchar_t kMainWindowClass[] = L"Orvane.Main";
@@ -22,7 +24,8 @@ inline constexpr COLORREF kMainBackColor = RGB(240, 240, 240);
 
 class MainWindow : public WindowBase, public MainWindowHost, public MainWindowRoutines {
 public:
-    explicit MainWindow(App& app);
+    // The bar paints with the skin, applies it, and hands it to every window it opens.
+    MainWindow(App& app, Skin& skin);
     // The bar goes before the members its messages use.
     ~MainWindow() override;
 
@@ -82,11 +85,12 @@ private:
     void showWallpaper() override;
 
     App& app_;
+    Skin& skin_;
     // The user's own programs, shared by the windows that show and edit them.
     CustomProgramTable customPrograms_;
     MenuBar menuBar_;
     MainCommands commands_{app_, *this};
-    IconStrip strip_{[this](int index) { commands_.runIcon(index); }};
+    IconStrip strip_{skin_, [this](int index) { commands_.runIcon(index); }};
     MainWindowState state_;
     bool layoutDone_ = true;  // false while "&Icons" rearranges the window
     UniqueModule shell32_;

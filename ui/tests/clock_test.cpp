@@ -7,6 +7,7 @@
 #include "dialogs.h"
 #include "orvane_process.h"
 #include "resource.h"
+#include "skin.h"
 #include "win_support.h"
 
 namespace orvane::ui {
@@ -19,6 +20,7 @@ TEST(ClockWindow, ShowsDateAndTimeAndAnyKeyOrClickClosesIt) {
     // Keys the dialog manager would keep for itself, and clicks (0: the window below its frames).
     const std::pair<WORD, int> closers[] = {{'A', 0}, {VK_F5, 0}, {VK_ESCAPE, 0}, {VK_RETURN, 0}, {VK_TAB, 0},
                                             {VK_DOWN, 0}, {0, IDC_CLOCK_TIME}, {0, 0}};
+    Skin skin;  // none loaded: the system's colours
     for (const auto& [key, label] : closers) {
         SYSTEMTIME before{}, after{};
         std::wstring date, time, seconds;  // as shown
@@ -36,7 +38,7 @@ TEST(ClockWindow, ShowsDateAndTimeAndAnyKeyOrClickClosesIt) {
             key ? void(PostMessageW(GetDlgItem(dialog, IDC_CLOCK_KEYS), WM_KEYDOWN, key, 1)) : e2e::ClickAt({(place.left + place.right) / 2, label ? (place.top + place.bottom) / 2 : place.bottom - 4});
             if (!(closed = WaitFor([&] { return !IsWindow(dialog); }, 3s))) PostMessageW(dialog, WM_CLOSE, 0, 0);  // so the test goes on
         });
-        ShowClockWindow(nullptr);
+        ShowClockWindow(skin, nullptr);
         driver.join();
         EXPECT_TRUE(closed) << key << " " << label;
         wchar_t today[128] = {};

@@ -24,6 +24,7 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
     CreateDirectoryW((folder + L"Skin_Folder.bmp").c_str(), nullptr);
     Win32System sys;
     App app(sys);
+    Skin skin;
     app.settings.SkinFile = L"C:\\elsewhere\\skin_slate.BMP", app.settings.SkinFolder = folder;
     std::vector<std::wstring> applied;
     int adjusted = 0;
@@ -42,7 +43,7 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
         }
         if (!WaitFor([&] { return !IsWindow(dialog); }, 10s)) ADD_FAILURE() << "Esc leaves it open", EndDialog(dialog, 0);
     });
-    ShowSkinChooser(app, nullptr, {[&] { applied.push_back(app.settings.SkinFile); }, [&] { ++adjusted; }});
+    ShowSkinChooser(app, skin, nullptr, {[&] { applied.push_back(app.settings.SkinFile); }, [&] { ++adjusted; }});
     user.join();
     EXPECT_EQ(applied, std::vector<std::wstring>{folder + L"Skin_Bad.bmp"}) << "no bitmap, but it passes the skin test";
     EXPECT_EQ(std::pair(app.settings.SkinFile, adjusted), std::pair(folder + L"Skin_Alba.bmp", 1));
