@@ -1,4 +1,4 @@
-// frmAbout: the program's icon, name, version and what it is.
+// The About box: the program's icon, name, version and what it is.
 #include <vector>
 
 #include "app.h"
@@ -35,7 +35,7 @@ std::wstring ProductVersion() {
 
 class AboutDialog : public ModalDialog {
 public:
-    explicit AboutDialog(App& app) : app_(app) {}
+    AboutDialog(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
 
 private:
     void onInit() override {
@@ -57,6 +57,6 @@ private:
 
 }  // namespace
 
-void ShowAboutDialog(App& app, HWND owner) { AboutDialog(app).show(owner, IDD_ABOUT); }
+void ShowAboutDialog(App& app, Skin& skin, HWND owner) { AboutDialog(app, skin).show(owner, IDD_ABOUT); }
 
 }  // namespace orvane::ui

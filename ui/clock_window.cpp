@@ -1,4 +1,4 @@
-// frmShowTimer: today's date, set once; the time and its seconds, written
+// The clock: today's date, set once; the time and its seconds, written
 // every 100 ms; the first click on it or key pressed in it closes it.
 #include "clock.h"
 #include "dialogs.h"
@@ -39,6 +39,10 @@ UniqueFont LabelFont(HWND dialog, int points, LONG weight) {
 }
 
 class ClockWindow : public ModalDialog {
+public:
+    explicit ClockWindow(Skin& skin) : ModalDialog(skin) {}
+
+private:
     void onInit() override {
         timeFont_ = LabelFont(hwnd(), 28, FW_BOLD);
         secondsFont_ = LabelFont(hwnd(), 11, FW_NORMAL);
@@ -88,7 +92,7 @@ class ClockWindow : public ModalDialog {
 
 }  // namespace
 
-void ShowClockWindow(HWND owner) {
+void ShowClockWindow(Skin& skin, HWND owner) {
     static const ATOM catcher = [] {
         WNDCLASSW type{};
         type.lpfnWndProc = KeyCatcher;
@@ -96,7 +100,7 @@ void ShowClockWindow(HWND owner) {
         type.lpszClassName = L"OrvaneClockKeys";
         return RegisterClassW(&type);
     }();
-    if (catcher) ClockWindow().show(owner, IDD_CLOCK);
+    if (catcher) ClockWindow(skin).show(owner, IDD_CLOCK);
 }
 
 }  // namespace orvane::ui

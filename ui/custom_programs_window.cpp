@@ -1,4 +1,4 @@
-// frmCustomPrograms: the user's own programs in two grids, started by Enter
+// The custom programs window: the user's own programs in two grids, started by Enter
 // or a double click, with a popup menu and a set of buttons around them.
 #include <windows.h>
 #include <commctrl.h>
@@ -25,8 +25,8 @@ constexpr UINT kActivated = WM_APP + 1;
 
 class CustomProgramsWindow : public ModalDialog {
 public:
-    CustomProgramsWindow(App& app, CustomProgramTable& table, MainCommands& commands)
-        : app_(app), table_(table), commands_(commands) {}
+    CustomProgramsWindow(App& app, Skin& skin, CustomProgramTable& table, MainCommands& commands)
+        : ModalDialog(skin), app_(app), table_(table), commands_(commands) {}
 
 private:
     ProgramGrid& grid(int number) { return grids_[static_cast<std::size_t>(number - 1)]; }
@@ -39,8 +39,8 @@ private:
         hand_.reset(static_cast<HICON>(LoadImageW(nullptr, (app_.ProgramFolder + L"\\HandOpen.ico").c_str(), IMAGE_ICON,
                                                   scaled(32), scaled(32), LR_LOADFROMFILE)));
         pointer_.hand = hand_ ? hand_.get() : LoadCursorW(nullptr, IDC_HAND);
-        grid(1).create(hwnd(), IDC_GRID1, pointer_);
-        grid(2).create(hwnd(), IDC_GRID2, pointer_);
+        grid(1).create(hwnd(), IDC_GRID1, pointer_, skin());
+        grid(2).create(hwnd(), IDC_GRID2, pointer_, skin());
         const auto font = static_cast<WPARAM>(SendMessageW(hwnd(), WM_GETFONT, 0, 0));
         for (std::size_t i = 0; i < GridButtons().size(); ++i) {
             const std::wstring caption(GridButtons()[i].caption);
@@ -116,7 +116,7 @@ private:
     }
 
     void editList() {
-        ShowCustomListEditor(app_, table_, hwnd());
+        ShowCustomListEditor(app_, skin(), table_, hwnd());
         // What was not saved is dropped: the grids show the file again.
         LoadCustomList(app_, table_);
         fillGrids();
@@ -133,12 +133,12 @@ private:
             at = {row.left + scaled(16), row.bottom};
             ClientToScreen(list, &at);
         }
-        popup_.setColours(hwnd(), Skin::instance().menuColours());
+        popup_.setColours(hwnd(), skin().menuColours());
         const auto command = FindGridMenuCommand(popup_.popup(hwnd(), at));
         if (!command) return;
         switch (*command) {
         case GridMenuCommand::Close: close(); break;
-        case GridMenuCommand::Info: ShowFileInformation(app_, hwnd(), app_.settings.CustomListFile); break;
+        case GridMenuCommand::Info: ShowFileInformation(app_, skin(), hwnd(), app_.settings.CustomListFile); break;
         case GridMenuCommand::EditList: editList(); break;
         case GridMenuCommand::LoadProgram: launch(); break;
         }
@@ -171,7 +171,7 @@ private:
         switch (button.action) {
         case GridButtonAction::MainCommand: commands_.run(button.row); break;
         case GridButtonAction::Deadlines: LoadDeadlinesWithArgument(app_); break;
-        case GridButtonAction::Clock: ShowClockWindow(hwnd()); break;
+        case GridButtonAction::Clock: ShowClockWindow(skin(), hwnd()); break;
         case GridButtonAction::FirstGrid: focusGrid(1); break;
         case GridButtonAction::SecondGrid: focusGrid(2); break;
         case GridButtonAction::Exit: close(); break;
@@ -204,7 +204,7 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (popup_.dialogMessage(hwnd(), message, wParam, lParam)) return TRUE;
+        if (popup_.dialogMessage(hwnd(), skin(), message, wParam, lParam)) return TRUE;
         switch (message) {
         case kActivated: activated(); return TRUE;
         case WM_ACTIVATE:
@@ -234,8 +234,8 @@ private:
 
 }  // namespace
 
-void ShowCustomPrograms(App& app, CustomProgramTable& table, MainCommands& commands, HWND owner) {
-    CustomProgramsWindow(app, table, commands).show(owner, IDD_CUSTOM_PROGRAMS);
+void ShowCustomPrograms(App& app, Skin& skin, CustomProgramTable& table, MainCommands& commands, HWND owner) {
+    CustomProgramsWindow(app, skin, table, commands).show(owner, IDD_CUSTOM_PROGRAMS);
 }
 
 }  // namespace orvane::ui

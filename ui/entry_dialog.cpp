@@ -1,4 +1,4 @@
-// frmGetFullInfo: the program and startup folder of one line of the list.
+// The entry dialog: the program and startup folder of one line of the list.
 #include "app.h"
 #include "conversions.h"
 #include "dialogs.h"
@@ -15,8 +15,8 @@ namespace {
 
 class EntryDialog : public ModalDialog {
 public:
-    EntryDialog(App& app, const CustomProgramTable& table, int entry)
-        : app_(app), name_(table.DisplayNames[static_cast<std::size_t>(entry)]), entry_(entry),
+    EntryDialog(App& app, Skin& skin, const CustomProgramTable& table, int entry)
+        : ModalDialog(skin), app_(app), name_(table.DisplayNames[static_cast<std::size_t>(entry)]), entry_(entry),
           choice_{table.ProgramPaths[static_cast<std::size_t>(entry)],
                   table.StartupFolders[static_cast<std::size_t>(entry)]} {}
 
@@ -61,8 +61,9 @@ private:
 
 }  // namespace
 
-std::optional<EntryChoice> ShowEntryDialog(App& app, HWND owner, const CustomProgramTable& table, int entry) {
-    EntryDialog dialog(app, table, entry);
+std::optional<EntryChoice> ShowEntryDialog(App& app, Skin& skin, HWND owner, const CustomProgramTable& table,
+                                           int entry) {
+    EntryDialog dialog(app, skin, table, entry);
     dialog.centreOver(ToHwnd(app.MainWindowRef));
     if (dialog.show(owner, IDD_ENTRY) != IDOK) return std::nullopt;
     return dialog.choice();

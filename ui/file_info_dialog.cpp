@@ -1,4 +1,4 @@
-// frmTxtInfo: facts about one file, with commands to copy them, see the
+// The file information: facts about one file, with commands to copy them, see the
 // file's properties, explore its folder or inspect it.
 #include <windows.h>
 #include <shellapi.h>
@@ -18,8 +18,8 @@ namespace {
 
 class FileInfoDialog : public ModalDialog {
 public:
-    FileInfoDialog(App& app, const std::wstring& path, const FileInformation& info)
-        : app_(app), path_(path), info_(info) {}
+    FileInfoDialog(App& app, Skin& skin, const std::wstring& path, const FileInformation& info)
+        : ModalDialog(skin), app_(app), path_(path), info_(info) {}
 
 private:
     void onInit() override {
@@ -66,12 +66,12 @@ private:
 
 }  // namespace
 
-void ShowFileInformation(App& app, HWND owner, const std::wstring& path) {
-    ShowFileInformation(app, owner, path, InformationOf(app, path));
+void ShowFileInformation(App& app, Skin& skin, HWND owner, const std::wstring& path) {
+    ShowFileInformation(app, skin, owner, path, InformationOf(app, path));
 }
 
-void ShowFileInformation(App& app, HWND owner, const std::wstring& path, const FileInformation& info) {
-    FileInfoDialog dialog(app, path, info);
+void ShowFileInformation(App& app, Skin& skin, HWND owner, const std::wstring& path, const FileInformation& info) {
+    FileInfoDialog dialog(app, skin, path, info);
     dialog.centreOver(ToHwnd(app.MainWindowRef));
     dialog.show(owner, IDD_FILE_INFO);
 }

@@ -176,7 +176,7 @@ void IconStrip::setHot(int index) {
 
 void IconStrip::paint(HDC dc) {
     loadIcons();
-    const MenuColours colours = Skin::instance().menuColours();
+    const MenuColours colours = skin_.menuColours();
     const int margin = ScaledForWindow(kHotMargin, hwnd());
     const bool showFocus = GetFocus() == hwnd() && keyboardCues_;
     for (int i = 0; i < kIconCount; ++i) {
@@ -202,7 +202,7 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         GetWindowRect(hwnd(), &place);
         MapWindowPoints(nullptr, GetParent(hwnd()), reinterpret_cast<POINT*>(&place), 1);
         SetBrushOrgEx(reinterpret_cast<HDC>(wParam), -place.left, -place.top, nullptr);
-        Skin::instance().paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
+        skin_.paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
         return TRUE;
     }
     case WM_PAINT: {

@@ -14,11 +14,14 @@
 
 namespace orvane::ui {
 
+class Skin;
+
 inline constexpr wchar_t kIconStripClass[] = L"Orvane.IconStrip";
 
 class IconStrip : public WindowBase {
 public:
-    explicit IconStrip(std::function<void(int)> run) : run_(std::move(run)) {}
+    // The strip paints with the bar's skin: its tiles behind, its highlight on the icon a click would run.
+    IconStrip(const Skin& skin, std::function<void(int)> run) : skin_(skin), run_(std::move(run)) {}
 
     // A hidden child of the bar.
     bool create(HWND parent);
@@ -36,6 +39,7 @@ private:
     void showTooltips(bool shown);
     void loadIcons();
 
+    const Skin& skin_;
     std::function<void(int)> run_;
     std::array<int, kIconCount> iconLeft_{};
     // The 26 pictures side by side at the icons' size, alpha premultiplied.

@@ -1,4 +1,4 @@
-// frmMyInputBox: a prompt and one line of text, with a way to look up a
+// The input box: a prompt and one line of text, with a way to look up a
 // folder or a file while typing.
 #include "app.h"
 #include "catalogue.h"
@@ -16,8 +16,8 @@ constexpr int kDesktopFolder = 0x10;
 
 class InputBox : public ModalDialog {
 public:
-    InputBox(App& app, const std::wstring& prompt, const std::wstring& preset)
-        : app_(app), prompt_(prompt), preset_(preset) {}
+    InputBox(App& app, Skin& skin, const std::wstring& prompt, const std::wstring& preset)
+        : ModalDialog(skin), app_(app), prompt_(prompt), preset_(preset) {}
     // Empty unless OK ended the box: a box closed any other way, even with its
     // owner, answers nothing.
     const std::wstring& text() const { return text_; }
@@ -53,8 +53,8 @@ private:
 
 }  // namespace
 
-std::wstring ShowInputBox(App& app, HWND owner, const std::wstring& prompt, const std::wstring& preset) {
-    InputBox box(app, prompt, preset);
+std::wstring ShowInputBox(App& app, Skin& skin, HWND owner, const std::wstring& prompt, const std::wstring& preset) {
+    InputBox box(app, skin, prompt, preset);
     box.show(owner, IDD_INPUT_BOX);
     return box.text();
 }

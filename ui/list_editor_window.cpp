@@ -1,4 +1,4 @@
-// frmCustomList: the 64 lines of the list, each a number, a name field and a
+// The custom list editor: the 64 lines of the list, each a number, a name field and a
 // program field, scrolling in their panel; every edit goes straight into the
 // shared table, through the editor's rules.
 #include <windows.h>
@@ -26,6 +26,8 @@ int LineOf(int id) { return IsName(id) ? id - IDC_FIRST_NAME_FIELD : id - IDC_FI
 
 // The panel's line pitch in pixels, kept with the panel for its scroll bar.
 int Pitch(HWND panel) { return static_cast<int>(GetWindowLongPtrW(panel, GWLP_USERDATA)); }
+// The skin the editor paints with, kept with the panel in its window's extra bytes.
+const Skin* PanelSkin(HWND panel) { return reinterpret_cast<const Skin*>(GetWindowLongPtrW(panel, 0)); }
 
 void ScrollPanelTo(HWND panel, int position) {
     SCROLLINFO info{sizeof info, SIF_ALL, 0, 0, 0, 0, 0};
@@ -45,7 +47,9 @@ LRESULT CALLBACK LinesPanel(HWND panel, UINT message, WPARAM wParam, LPARAM lPar
     case WM_COMMAND:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC: return SendMessageW(GetParent(panel), message, wParam, lParam);
-    case WM_ERASEBKGND: Skin::instance().paintBackground(panel, reinterpret_cast<HDC>(wParam)); return TRUE;
+    case WM_ERASEBKGND:
+        if (const Skin* skin = PanelSkin(panel)) skin->paintBackground(panel, reinterpret_cast<HDC>(wParam));
+        return TRUE;
     case WM_MOUSEWHEEL:
         ScrollPanelTo(panel, GetScrollPos(panel, SB_VERT) - GET_WHEEL_DELTA_WPARAM(wParam) * 3 * Pitch(panel) / WHEEL_DELTA);
         return 0;
@@ -71,7 +75,8 @@ LRESULT CALLBACK LinesPanel(HWND panel, UINT message, WPARAM wParam, LPARAM lPar
 
 class ListEditorWindow : public ModalDialog {
 public:
-    ListEditorWindow(App& app, CustomProgramTable& table) : app_(app), table_(table), editor_(app, table) {}
+    ListEditorWindow(App& app, Skin& skin, CustomProgramTable& table)
+        : ModalDialog(skin), app_(app), table_(table), editor_(app, table) {}
 
 private:
     int scaled(int pixels) const { return ScaledForWindow(pixels, hwnd()); }
@@ -79,7 +84,7 @@ private:
     HWND field(int id) const { return GetDlgItem(panel(), id); }
 
     void onInit() override {
-        menu_.setColours(hwnd(), Skin::instance().menuColours());
+        menu_.setColours(hwnd(), skin().menuColours());
         menu_.buildGrowing(hwnd());
         createLines();
         if (LoadCustomList(app_, table_)) refill();
@@ -95,6 +100,7 @@ private:
         const int pitch = scaled(26), height = scaled(22), marker = scaled(16), number = scaled(24);
         const int name = (client.right - marker - number) * 2 / 5;
         SetWindowLongPtrW(lines, GWLP_USERDATA, pitch);
+        SetWindowLongPtrW(lines, 0, reinterpret_cast<LONG_PTR>(&skin()));
         const auto font = static_cast<WPARAM>(SendMessageW(hwnd(), WM_GETFONT, 0, 0));
         const auto make = [&](const wchar_t* type, DWORD style, DWORD exStyle, int id, const std::wstring& text, int x,
                               int y, int width) {
@@ -217,7 +223,7 @@ private:
 
     void chooseEntry() {
         const int line = editor_.currentLine;
-        if (const auto choice = ShowEntryDialog(app_, hwnd(), table_, line)) {
+        if (const auto choice = ShowEntryDialog(app_, skin(), hwnd(), table_, line)) {
             editor_.takeEntry(choice->program, choice->folder);
             showField(IDC_FIRST_PROGRAM_FIELD + line, table_.ProgramPaths[static_cast<std::size_t>(line)]);
         }
@@ -237,7 +243,7 @@ private:
         case EditorCommand::Delete:
             if (editor_.deleteLine()) refill();
             break;
-        case EditorCommand::Info: ShowFileInformation(app_, hwnd(), app_.settings.CustomListFile); break;
+        case EditorCommand::Info: ShowFileInformation(app_, skin(), hwnd(), app_.settings.CustomListFile); break;
         case EditorCommand::Exit: end(IDCANCEL); break;
         }
     }
@@ -262,7 +268,7 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        return menu_.dialogMessage(hwnd(), message, wParam, lParam);
+        return menu_.dialogMessage(hwnd(), skin(), message, wParam, lParam);
     }
 
     App& app_;
@@ -273,16 +279,17 @@ private:
 
 }  // namespace
 
-void ShowCustomListEditor(App& app, CustomProgramTable& table, HWND owner) {
+void ShowCustomListEditor(App& app, Skin& skin, CustomProgramTable& table, HWND owner) {
     static const ATOM lines = [] {
         WNDCLASSW type{};
         type.lpfnWndProc = LinesPanel;
+        type.cbWndExtra = sizeof(LONG_PTR);
         type.hInstance = GetModuleHandleW(nullptr);
         type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
         type.lpszClassName = kLinesClass;
         return RegisterClassW(&type);
     }();
-    if (lines) ListEditorWindow(app, table).show(owner, IDD_LIST_EDITOR);
+    if (lines) ListEditorWindow(app, skin, table).show(owner, IDD_LIST_EDITOR);
 }
 
 }  // namespace orvane::ui

@@ -1,4 +1,4 @@
-// frmProgramLocations: where the Office programs are, the wallpaper, the
+// The program locations: where the Office programs are, the wallpaper, the
 // return password and the web list. Every change goes straight into the
 // settings, which are written when the program ends.
 #include "app.h"
@@ -29,7 +29,7 @@ constexpr LocateButton kButtons[] = {
 
 class LocationsDialog : public ModalDialog {
 public:
-    explicit LocationsDialog(App& app) : app_(app) {}
+    LocationsDialog(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
 
 private:
     void showFields() {
@@ -55,6 +55,8 @@ private:
 
 }  // namespace
 
-void ShowProgramLocations(App& app, HWND owner) { LocationsDialog(app).show(owner, IDD_LOCATIONS); }
+void ShowProgramLocations(App& app, Skin& skin, HWND owner) {
+    LocationsDialog(app, skin).show(owner, IDD_LOCATIONS);
+}
 
 }  // namespace orvane::ui

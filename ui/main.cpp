@@ -4,6 +4,7 @@
 #include "app.h"
 #include "helpers.h"
 #include "main_window.h"
+#include "skin.h"
 #include "win32_system.h"
 
 namespace {
@@ -24,7 +25,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     orvane::App app(system);
     app.ProgramFolder = orvane::ParentFolder(ExecutablePath());
 
-    orvane::ui::MainWindow mainWindow(app);
+    // The program's one skin, applied to the bar and every window it opens.
+    orvane::ui::Skin skin;
+    orvane::ui::MainWindow mainWindow(app, skin);
     if (!mainWindow.open()) return 0;
     system.setMessageOwner(mainWindow.hwnd());
 

@@ -1,8 +1,5 @@
 #include "main_window.h"
 
-#include <commctrl.h>
-#include <shldisp.h>
-
 #include "dialogs.h"
 #include "dpi.h"
 #include "skin.h"
@@ -11,7 +8,6 @@ namespace orvane::ui {
 
 namespace {
 
-constexpr wchar_t kInstanceMutexName[] = L"Local\\Orvane.Instance";
 // Posted when the bar was minimised under the wallpaper: it comes back.
 constexpr UINT kRestoreUnderWallpaper = WM_APP + 1;
 
@@ -28,7 +24,8 @@ RECT PixelWorkArea() {
 
 }  // namespace
 
-MainWindow::MainWindow(App& app) : app_(app), background_(CreateSolidBrush(kMainBackColor)) {}
+MainWindow::MainWindow(App& app, Skin& skin)
+    : app_(app), skin_(skin), background_(CreateSolidBrush(kMainBackColor)) {}
 
 MainWindow::~MainWindow() {
     if (hwnd()) DestroyWindow(hwnd());
@@ -57,14 +54,14 @@ bool MainWindow::open() {
 
     // Creation: the shell library and the common controls.
     shell32_.reset(LoadLibraryW(L"shell32.dll"));
-    initCommonControls();
+    host_.initCommonControls();
     if (!create(WS_EX_APPWINDOW, kMainWindowClass, kProgramTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                 applicationWindow_.get()) ||
         !strip_.create(hwnd()))
         return false;
-    Skin::instance().join(hwnd());  // the first of the program's windows
+    skin_.join(hwnd());  // the first of the program's windows
 
-    if (LoadMainWindow(app_, *this, state_) == LoadOutcome::HandedOver) return false;
+    if (LoadMainWindow(app_, host_, state_) == LoadOutcome::HandedOver) return false;
     ShowWindow(hwnd(), SW_SHOWNORMAL);
     UpdateWindow(hwnd());
     return true;
@@ -72,7 +69,7 @@ bool MainWindow::open() {
 
 void MainWindow::unload() {
     if (std::exchange(unloaded_, true)) return;
-    UnloadMainWindow(app_, *this);
+    UnloadMainWindow(app_, host_);
     shell32_.reset();
 }
 
@@ -91,11 +88,11 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam) unload();  // the session ends: keep the settings
         return 0;
     case WM_DESTROY:
-        Skin::instance().leave(hwnd());
+        skin_.leave(hwnd());
         PostQuitMessage(0);
         return 0;
     case WM_ERASEBKGND:
-        Skin::instance().paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
+        skin_.paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
         return TRUE;
     case WM_SIZE:
         // The bar owns the wallpaper, and a minimised owner takes the cover along: not while it shows.
@@ -186,38 +183,13 @@ void MainWindow::resized() {
     strip_.place(strip, iconLeft, TwipsToPixels(s.IconSize, dpi));
 }
 
-void MainWindow::setMenuColours() { menuBar_.setColours(hwnd(), Skin::instance().menuColours()); }
+void MainWindow::setMenuColours() { menuBar_.setColours(hwnd(), skin_.menuColours()); }
 
 RECT MainWindow::pixelRect() {
     RECT r{};
     GetWindowRect(hwnd(), &r);
     return r;
 }
-
-bool MainWindow::earlierInstanceRunning() {
-    instanceMutex_.reset(CreateMutexW(nullptr, FALSE, kInstanceMutexName));
-    return GetLastError() == ERROR_ALREADY_EXISTS;
-}
-
-std::wstring MainWindow::programTitle() {
-    wchar_t title[256];
-    return std::wstring(title, static_cast<std::size_t>(GetWindowTextW(applicationWindow_.get(), title, 256)));
-}
-
-void MainWindow::setProgramTitle(const std::wstring& title) { SetWindowTextW(applicationWindow_.get(), title.c_str()); }
-
-WindowRef MainWindow::findApplicationWindow(const std::wstring& title) {
-    return ToRef(FindWindowW(kApplicationWindowClass, title.c_str()));
-}
-
-void MainWindow::endProcessNow() { ExitProcess(0); }
-
-void MainWindow::initCommonControls() {
-    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
-    InitCommonControlsEx(&controls);
-}
-
-WindowRef MainWindow::handle() { return ToRef(hwnd()); }
 
 void MainWindow::setTop(std::int32_t twips) {
     const RECT r = pixelRect();
@@ -255,20 +227,16 @@ TwipsRect MainWindow::geometry() {
 
 TwipsRect MainWindow::workArea() { return ToTwips(PixelWorkArea(), WindowDpi(hwnd())); }
 
-std::int32_t MainWindow::backColor() { return static_cast<std::int32_t>(kMainBackColor); }
-
-void MainWindow::layIconStrip() { changeIconSize(0); }
-
 // Every open window takes the skin; the menu bar takes its colours when told.
 void MainWindow::applySkin(const std::wstring& skinFile) {
-    Skin::instance().load(skinFile);
-    Skin::instance().applyToAll();
+    skin_.load(skinFile);
+    skin_.applyToAll();
 }
 
 void MainWindow::buildMenuBar() {
     const Settings& s = app_.settings;
     menuBar_.setFont(s.ListFontName, s.ListFontSize, s.ListFontBold != 0);
-    menuBar_.setColours(hwnd(), Skin::instance().menuColours());
+    menuBar_.setColours(hwnd(), skin_.menuColours());
     menuBar_.build(hwnd());  // in those colours
 }
 
@@ -279,21 +247,6 @@ void MainWindow::takeOpeningSize() {
     const TwipsRect size = OpeningSize(shown, s.IconSize, s.ExpandedWidth);
     setTwipsRect(size, SWP_NOMOVE);
 }
-
-std::wstring MainWindow::inputBox(const std::wstring& prompt, const std::wstring& preset) {
-    return ShowInputBox(app_, hwnd(), prompt, preset);
-}
-void MainWindow::showAbout() { ShowAboutDialog(app_, hwnd()); }
-void MainWindow::showProgramLocations() { ShowProgramLocations(app_, hwnd()); }
-void MainWindow::showYourProgram() { ShowYourProgram(app_, hwnd()); }
-
-// The shell's own desktop toggle; a system without it simply does nothing.
-void MainWindow::toggleDesktop() {
-    if (const auto shell = CreateShellObject<IShellDispatch4>(IID_IShellDispatch4)) shell->ToggleDesktop();
-}
-
-// Exit closes the bar as its close box does, so the settings are written.
-void MainWindow::exitProgram() { PostMessageW(hwnd(), WM_CLOSE, 0, 0); }
 
 void MainWindow::useScreenWidth() {
     const BarState bar = UseScreenWidth(barState(), workArea());
@@ -322,25 +275,5 @@ void MainWindow::toggleTopBottom() {
     setTop(bar.window.top);
     state_.atTop = bar.atTop;
 }
-
-void MainWindow::chooseSkin() {
-    ShowSkinChooser(app_, hwnd(), {[this] { applySkin(app_.settings.SkinFile); }, [this] { setMenuColours(); }});
-}
-void MainWindow::chooseMenuFont() {
-    Settings& s = app_.settings;
-    const auto chosen = ChooseFontFor(hwnd(), {s.ListFontName, s.ListFontSize, s.ListFontBold != 0});
-    if (!chosen) return;
-    s.ListFontName = chosen->name;
-    s.ListFontSize = static_cast<std::int16_t>(chosen->points);
-    s.ListFontBold = chosen->bold ? -1 : 0;
-    buildMenuBar();  // the items are measured anew in the new font
-}
-void MainWindow::showCustomPrograms() { ShowCustomPrograms(app_, customPrograms_, commands_, hwnd()); }
-// Also asked for by the custom programs window, which then owns the list.
-void MainWindow::showWebList() {
-    HWND active = GetActiveWindow();
-    ShowWebList(app_, commands_, active ? active : hwnd());
-}
-void MainWindow::showWallpaper() { ShowWallpaper(app_, hwnd()); }
 
 }  // namespace orvane::ui

@@ -167,14 +167,14 @@ HICON MenuBar::icon(int key) const {
 
 std::wstring MenuBar::caption(HWND window, UINT command) const { return CaptionOf(GetMenu(window), command); }
 
-bool MenuBar::dialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+bool MenuBar::dialogMessage(HWND dialog, const Skin& skin, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_MEASUREITEM: return measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
     case WM_DRAWITEM: return draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
     case WM_MENUCHAR:
         SetWindowLongPtrW(dialog, DWLP_MSGRESULT, menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam)));
         return true;
-    case kSkinChanged: setColours(dialog, Skin::instance().menuColours()); return true;
+    case kSkinChanged: setColours(dialog, skin.menuColours()); return true;
     }
     return false;
 }

@@ -16,6 +16,8 @@
 
 namespace orvane::ui {
 
+class Skin;
+
 // Command identifiers of the menu items: this plus the row's index.
 inline constexpr UINT kFirstMenuCommand = 1000;
 // Icon resources: this plus the number of the icon key ("k47" is 1047).
@@ -51,9 +53,9 @@ public:
 
     bool measure(MEASUREITEMSTRUCT& item) const;
     bool draw(const DRAWITEMSTRUCT& item) const;
-    // A dialog's messages for its menu: drawing, access letters, a new skin's
-    // colours. True when the message was the menu's.
-    bool dialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+    // A dialog's messages for its menu: drawing, access letters, the colours
+    // of the dialog's skin when it changed. True when the message was the menu's.
+    bool dialogMessage(HWND dialog, const Skin& skin, UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
     void forgetSizedResources(HWND window);

@@ -72,7 +72,7 @@ INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LP
         SetWindowLongPtrW(window, DWLP_USER, lParam);
         self->window_ = window;
         CentreOver(window, self->centreOver_ ? self->centreOver_ : GetWindow(window, GW_OWNER));
-        Skin::instance().join(window);
+        self->skin_.join(window);
         self->onInit();
         return TRUE;
     }
@@ -85,9 +85,9 @@ INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LP
     case WM_CTLCOLORSTATIC:
         // The skin behind the dialog and its labels.
         return reinterpret_cast<INT_PTR>(
-            Skin::instance().controlColour(message, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+            self->skin_.controlColour(message, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
     case WM_NCDESTROY:
-        Skin::instance().leave(window);
+        self->skin_.leave(window);
         self->window_ = nullptr;
         break;
     }

@@ -1,6 +1,6 @@
 // A dialog from a template, shown modally over its owner and centred over it
-// (inside the work area). Enter presses OK, Esc Cancel; both end it unless
-// the dialog decides otherwise.
+// (inside the work area), painted with the program's skin. Enter presses OK,
+// Esc Cancel; both end it unless the dialog decides otherwise.
 #pragma once
 
 #include <windows.h>
@@ -11,12 +11,14 @@
 
 namespace orvane::ui {
 
+class Skin;
+
 // A control's or window's whole text.
 std::wstring WindowText(HWND window);
 
 class ModalDialog {
 public:
-    ModalDialog() = default;
+    explicit ModalDialog(Skin& skin) : skin_(skin) {}
     ModalDialog(const ModalDialog&) = delete;
     ModalDialog& operator=(const ModalDialog&) = delete;
     virtual ~ModalDialog() = default;
@@ -37,6 +39,8 @@ protected:
     // it, for keyboard shortcuts; true when it was used up.
     virtual bool translate(MSG&) { return false; }
     void end(INT_PTR result) { EndDialog(window_, result); }
+    // The skin this dialog paints with, for the windows it opens in turn.
+    Skin& skin() const { return skin_; }
 
     std::wstring itemText(int id) const { return WindowText(GetDlgItem(window_, id)); }
     void setItemText(int id, const std::wstring& text) { SetDlgItemTextW(window_, id, text.c_str()); }
@@ -44,6 +48,7 @@ protected:
 private:
     static INT_PTR CALLBACK route(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK filter(int code, WPARAM wParam, LPARAM lParam);
+    Skin& skin_;
     HWND window_ = nullptr;
     HWND centreOver_ = nullptr;
 };

@@ -28,8 +28,9 @@ HIMAGELIST SystemImageList(const std::wstring& path, int& index) {
 
 }  // namespace
 
-void ProgramGrid::create(HWND parent, int id, GridPointer& pointer) {
+void ProgramGrid::create(HWND parent, int id, GridPointer& pointer, const Skin& skin) {
     pointer_ = &pointer;
+    skin_ = &skin;
     list_ = CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"",
                             WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL |
                                 LVS_SHOWSELALWAYS,
@@ -130,7 +131,7 @@ void ProgramGrid::drawRow(HDC dc, int row, UINT state) {
     }
 
     // The current row is marked as the menus mark the item a click would run.
-    const MenuColours colours = Skin::instance().menuColours();
+    const MenuColours colours = skin_->menuColours();
     COLORREF text = pointer_->seen ? kNameText : GetSysColor(COLOR_WINDOWTEXT);
     if (nameEntered) {
         FillColour(dc, name, kEnteredBack);

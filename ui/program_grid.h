@@ -15,6 +15,8 @@
 
 namespace orvane::ui {
 
+class Skin;
+
 // What both grids share: whether the pointer has entered a cell yet, and the hand it shows there.
 struct GridPointer {
     bool seen = false;
@@ -23,7 +25,8 @@ struct GridPointer {
 
 class ProgramGrid {
 public:
-    void create(HWND parent, int id, GridPointer& pointer);
+    // The current row takes the menus' highlight in the skin's colours.
+    void create(HWND parent, int id, GridPointer& pointer, const Skin& skin);
     HWND hwnd() const { return list_; }
 
     // The rows: these entries of the table, in order.
@@ -50,6 +53,7 @@ private:
 
     HWND list_ = nullptr;
     GridPointer* pointer_ = nullptr;
+    const Skin* skin_ = nullptr;
     std::vector<std::size_t> entries_;
     std::vector<std::wstring> names_, programs_;
     std::vector<int> icons_;  // in the system image list; -1 none, -2 not asked yet

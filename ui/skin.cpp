@@ -46,11 +46,6 @@ void PaintHighlight(HDC dc, const RECT& area, const MenuColours& colours) {
     FrameColour(dc, area, colours.frame);
 }
 
-Skin& Skin::instance() {
-    static Skin skin;
-    return skin;
-}
-
 bool Skin::load(const std::wstring& path) {
     UniqueBitmap bitmap(static_cast<HBITMAP>(
         LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));

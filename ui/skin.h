@@ -1,6 +1,7 @@
 // The skin: one bitmap that paints the client background of every window of
 // the program, and the colours read from it. The system keeps drawing the
-// window frames, so they scale, snap and stay accessible as usual.
+// window frames, so they scale, snap and stay accessible as usual. The
+// program makes one at start and hands it to the windows that paint with it.
 #pragma once
 
 #include <windows.h>
@@ -19,9 +20,6 @@ inline constexpr UINT kSkinChanged = WM_APP + 0x100;
 
 class Skin {
 public:
-    // The program's one skin.
-    static Skin& instance();
-
     // Reads the bitmap; false, with the skin as it was, when it cannot be read.
     bool load(const std::wstring& path);
     // The skin's colours; nothing while no skin is loaded.

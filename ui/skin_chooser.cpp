@@ -1,4 +1,4 @@
-// frmChooseSkin: the skins of the skin folder, a preview of the selected one,
+// The skin chooser: the skins of the skin folder, a preview of the selected one,
 // and the commands that apply it. What is applied stays applied on exit.
 #include <optional>
 
@@ -17,7 +17,8 @@ namespace {
 
 class SkinChooser : public ModalDialog {
 public:
-    SkinChooser(App& app, const SkinChooserActions& actions) : app_(app), actions_(actions) {}
+    SkinChooser(App& app, Skin& skin, const SkinChooserActions& actions)
+        : ModalDialog(skin), app_(app), actions_(actions) {}
 
 private:
     HWND list() const { return GetDlgItem(hwnd(), IDC_SKIN_FILES); }
@@ -118,8 +119,8 @@ private:
 
 }  // namespace
 
-void ShowSkinChooser(App& app, HWND owner, const SkinChooserActions& actions) {
-    SkinChooser(app, actions).show(owner, IDD_SKIN_CHOOSER);
+void ShowSkinChooser(App& app, Skin& skin, HWND owner, const SkinChooserActions& actions) {
+    SkinChooser(app, skin, actions).show(owner, IDD_SKIN_CHOOSER);
 }
 
 }  // namespace orvane::ui

@@ -1,4 +1,4 @@
-// frmWallpaper: the wallpaper over the whole primary monitor, topmost, with
+// The wallpaper window: the wallpaper over the whole primary monitor, topmost, with
 // its one-menu bar. Every way of leaving it asks for the return password.
 #include <windows.h>
 
@@ -38,13 +38,13 @@ HWND openWallpaper = nullptr;
 
 class WallpaperWindow : public ModalDialog {
 public:
-    explicit WallpaperWindow(App& app) : app_(app) {}
+    WallpaperWindow(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
 
 private:
     void onInit() override {
         openWallpaper = hwnd();
         cover();
-        menu_.setColours(hwnd(), Skin::instance().menuColours());
+        menu_.setColours(hwnd(), skin().menuColours());
         // The bar first, so that the picture is fitted to the room it is shown in.
         menu_.build(hwnd());
         PostMessageW(hwnd(), kShowPicture, 0, 0);
@@ -184,7 +184,7 @@ private:
     void tryToLeave() {
         if (asking_) return;
         asking_ = true;
-        const std::wstring typed = ShowInputBox(app_, hwnd(), kPasswordPrompt, L"");
+        const std::wstring typed = ShowInputBox(app_, skin(), hwnd(), kPasswordPrompt, L"");
         asking_ = false;
         if (ReturnAllowed(app_, typed)) leave();
     }
@@ -194,7 +194,7 @@ private:
         if (id < static_cast<int>(kFirstMenuCommand)) return;
         const WallpaperCommand* command = FindWallpaperCommand(menu_.caption(hwnd(), static_cast<UINT>(id)));
         switch (command ? *command : WallpaperCommand::None) {
-        case WallpaperCommand::Time: ShowClockWindow(hwnd()); break;
+        case WallpaperCommand::Time: ShowClockWindow(skin(), hwnd()); break;
         case WallpaperCommand::Stretch: toggleStretch(); break;
         case WallpaperCommand::Exit: tryToLeave(); break;
         case WallpaperCommand::None: break;
@@ -212,7 +212,7 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (menu_.dialogMessage(hwnd(), message, wParam, lParam)) return TRUE;
+        if (menu_.dialogMessage(hwnd(), skin(), message, wParam, lParam)) return TRUE;
         switch (message) {
         case WM_CLOSE:  // Alt+F4, the system menu, or another program
         case WM_LBUTTONDOWN: tryToLeave(); return TRUE;
@@ -272,7 +272,7 @@ private:
 
 }  // namespace
 
-void ShowWallpaper(App& app, HWND owner) { WallpaperWindow(app).show(owner, IDD_WALLPAPER); }
+void ShowWallpaper(App& app, Skin& skin, HWND owner) { WallpaperWindow(app, skin).show(owner, IDD_WALLPAPER); }
 
 HWND OpenWallpaper() { return openWallpaper; }
 

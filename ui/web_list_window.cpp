@@ -1,4 +1,4 @@
-// frmWebList: the websites of a web list in a virtual list view, whose rows,
+// The web list window: the websites of a web list in a virtual list view, whose rows,
 // check marks and texts come from the model, with the browser entries, the
 // group panel over the list and the edit panel in the buttons' place.
 #include <windows.h>
@@ -38,7 +38,8 @@ bool Held(int key) { return GetKeyState(key) < 0; }
 
 class WebListWindow : public ModalDialog {
 public:
-    WebListWindow(App& app, MainCommands& commands) : app_(app), commands_(commands), list_(app) {}
+    WebListWindow(App& app, Skin& skin, MainCommands& commands)
+        : ModalDialog(skin), app_(app), commands_(commands), list_(app) {}
 
 private:
     HWND item(int id) const { return GetDlgItem(hwnd(), id); }
@@ -47,7 +48,7 @@ private:
     int count() const { return static_cast<int>(list_.rows.size()); }
 
     void onInit() override {
-        menu_.setColours(hwnd(), Skin::instance().menuColours());
+        menu_.setColours(hwnd(), skin().menuColours());
         menu_.buildGrowing(hwnd());
         ListView_SetExtendedListViewStyle(rows(), LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
         ListView_SetCallbackMask(rows(), LVIS_STATEIMAGEMASK);  // the check marks are the model's
@@ -206,7 +207,7 @@ private:
             if (list_.save()) showCaption();
             break;
         case C::Info:
-            ShowFileInformation(app_, hwnd(), app_.settings.WebListFile, list_.information());
+            ShowFileInformation(app_, skin(), hwnd(), app_.settings.WebListFile, list_.information());
             return;
         case C::Exit: close(); return;
         case C::EditItem: startEdit(); return;
@@ -366,7 +367,7 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (menu_.dialogMessage(hwnd(), message, wParam, lParam)) return TRUE;
+        if (menu_.dialogMessage(hwnd(), skin(), message, wParam, lParam)) return TRUE;
         switch (message) {
         case WM_NOTIFY: return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
         case WM_CLOSE: close(); return TRUE;
@@ -391,8 +392,8 @@ private:
 
 }  // namespace
 
-void ShowWebList(App& app, MainCommands& commands, HWND owner) {
-    WebListWindow(app, commands).show(owner, IDD_WEB_LIST);
+void ShowWebList(App& app, Skin& skin, MainCommands& commands, HWND owner) {
+    WebListWindow(app, skin, commands).show(owner, IDD_WEB_LIST);
 }
 
 }  // namespace orvane::ui

@@ -1,4 +1,4 @@
-// frmSetYourProg: the user's own program, chosen, typed and started.
+// Your program: the user's own program, chosen, typed and started.
 #include "app.h"
 #include "dialogs.h"
 #include "locations.h"
@@ -11,7 +11,7 @@ namespace {
 
 class YourProgramDialog : public ModalDialog {
 public:
-    explicit YourProgramDialog(App& app) : app_(app) {}
+    YourProgramDialog(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
 
 private:
     void onInit() override { setItemText(IDC_PROGRAM, app_.settings.YourProgram); }
@@ -29,6 +29,6 @@ private:
 
 }  // namespace
 
-void ShowYourProgram(App& app, HWND owner) { YourProgramDialog(app).show(owner, IDD_YOUR_PROGRAM); }
+void ShowYourProgram(App& app, Skin& skin, HWND owner) { YourProgramDialog(app, skin).show(owner, IDD_YOUR_PROGRAM); }
 
 }  // namespace orvane::ui

@@ -7,6 +7,7 @@
 #include "app.h"
 #include "bench_support.h"
 #include "main_window.h"
+#include "skin.h"
 #include "win32_system.h"
 #include "win_support.h"
 
@@ -18,6 +19,7 @@ struct BenchBar {
     }
     orvane::ui::Win32System system;
     orvane::App app{system};
-    orvane::ui::MainWindow bar{app};
+    orvane::ui::Skin skin;
+    orvane::ui::MainWindow bar{app, skin};
     bool opened = false;
 };

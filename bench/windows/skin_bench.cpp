@@ -52,12 +52,15 @@ int wmain(int argc, wchar_t** argv) {
     BenchBar bench(folder);
     if (!bench.opened) return 1;
     orvane::ui::MainWindow& bar = bench.bar;
-    orvane::MainWindowHost& host = bar;
     Settle();
 
     std::vector<double> apply, repaint;
     for (int run = 0; run < runs; ++run) {
-        apply.push_back(Milliseconds([&] { host.applySkin(run % 2 ? light : dark); }));
+        // What the bar does with a chosen skin: read it, then every open window takes it.
+        apply.push_back(Milliseconds([&] {
+            bench.skin.load(run % 2 ? light : dark);
+            bench.skin.applyToAll();
+        }));
         repaint.push_back(Milliseconds([&] {
             RedrawWindow(bar.hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
         }));

@@ -20,6 +20,7 @@
 #include "menu.h"
 #include "menu_bar.h"
 #include "picture.h"
+#include "skin.h"
 #include "win32_system.h"
 #include "win_support.h"
 #include "table_row.h"
@@ -80,7 +81,8 @@ int ShowAndMeasure(const std::wstring& picture) {
     orvane::ui::Win32System system;
     orvane::App app(system);
     app.ProgramFolder = ts::ExeFolder();  // a neutral settings file, written by the parent
-    orvane::ui::MainWindow bar(app);
+    orvane::ui::Skin skin;
+    orvane::ui::MainWindow bar(app, skin);
     const UINT command = MenuCommandOf(orvane::MainMenuRows(), L"Wa&llpaper", orvane::ui::kFirstMenuCommand);
     if (!bar.open() || command == 0) return 1;
     app.settings.WallpaperFile = picture;

@@ -19,6 +19,7 @@
 #include "menu.h"
 #include "menu_bar.h"
 #include "resource.h"
+#include "skin.h"
 #include "web_list.h"
 #include "web_list_file.h"
 #include "win32_system.h"
@@ -75,7 +76,8 @@ int wmain(int argc, wchar_t** argv) {
         Save(app, lists.back(), listFile(size));
     }
 
-    orvane::ui::MainWindow bar(app);
+    orvane::ui::Skin skin;
+    orvane::ui::MainWindow bar(app, skin);
     const UINT command = MenuCommandOf(orvane::MainMenuRows(), L"Open &web list", orvane::ui::kFirstMenuCommand);
     if (!bar.open() || command == 0) return 1;
     FirstIdle firstIdle(bar.hwnd());

@@ -8,6 +8,7 @@
 #include "dialogs.h"
 #include "orvane_process.h"
 #include "resource.h"
+#include "skin.h"
 #include "win32_system.h"
 #include "win_support.h"
 
@@ -25,6 +26,7 @@ TEST(ClockWindow, ShowsDateAndTimeAndAnyKeyOrClickClosesIt) {
     // Keys the dialog manager would keep for itself, and clicks (0: the window below its frames).
     const std::pair<WORD, int> closers[] = {{'A', 0}, {VK_F5, 0}, {VK_ESCAPE, 0}, {VK_RETURN, 0}, {VK_TAB, 0},
                                             {VK_DOWN, 0}, {0, IDC_CLOCK_TIME}, {0, 0}};
+    Skin skin;  // none loaded: the system's colours
     for (const auto& [key, label] : closers) {
         SYSTEMTIME before{}, after{};
         std::wstring date, time, seconds;  // as shown
@@ -41,7 +43,7 @@ TEST(ClockWindow, ShowsDateAndTimeAndAnyKeyOrClickClosesIt) {
             key ? void(PostMessageW(GetDlgItem(dialog, IDC_CLOCK_KEYS), WM_KEYDOWN, key, 1)) : e2e::ClickAt({(place.left + place.right) / 2, label ? (place.top + place.bottom) / 2 : place.bottom - 4});
             if (!(closed = Gone(dialog, 3s))) PostMessageW(dialog, WM_CLOSE, 0, 0);  // so the test goes on
         });
-        ShowClockWindow(nullptr);
+        ShowClockWindow(skin, nullptr);
         driver.join();
         EXPECT_TRUE(closed) << key << " " << label;
         wchar_t today[128] = {};
@@ -58,6 +60,7 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
     CreateDirectoryW((folder + L"Skin_Folder.bmp").c_str(), nullptr);
     Win32System sys;
     App app(sys);
+    Skin skin;
     app.settings.SkinFile = L"C:\\elsewhere\\skin_slate.BMP", app.settings.SkinFolder = folder;
     std::vector<std::wstring> applied;
     int adjusted = 0;
@@ -74,7 +77,7 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
         PostMessageW(files, WM_KEYDOWN, VK_ESCAPE, 0);
         if (!Gone(dialog, 10s)) ADD_FAILURE() << "Esc leaves it open", EndDialog(dialog, 0);
     });
-    ShowSkinChooser(app, nullptr, {[&] { applied.push_back(app.settings.SkinFile); }, [&] { ++adjusted; }});
+    ShowSkinChooser(app, skin, nullptr, {[&] { applied.push_back(app.settings.SkinFile); }, [&] { ++adjusted; }});
     user.join();
     EXPECT_EQ(applied, std::vector<std::wstring>{folder + L"Skin_Bad.bmp"}) << "no bitmap, but it passes the skin test";
     EXPECT_EQ(std::pair(app.settings.SkinFile, adjusted), std::pair(folder + L"Skin_Alba.bmp", 1));
