@@ -40,7 +40,6 @@ inline std::string EncodeWindows1252(const std::wstring& text) {
 
 class FakeSystem : public System {
     using S = const std::wstring&;
-    void log(const std::wstring& entry, long long n) { journal.push_back(entry + L" " + std::to_wstring(n)); }
     template <class T> static T next(std::vector<T>& queue, T otherwise) {  // the first scripted answer, consumed
         if (queue.empty()) return otherwise;
         const T answer = queue.front(); queue.erase(queue.begin()); return answer;
@@ -98,11 +97,12 @@ public:
         journal.push_back(L"start " + commandLine); started.push_back({commandLine, showCode}); return nextTask;
     }
     long long shellVerb(WindowRef owner, S verb, S file, S directory, int showCode) override {
-        log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show", showCode);
+        journal.push_back(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show " +
+                          std::to_wstring(showCode));
         return 42;
     }
     std::vector<TopLevelWindow> topLevelWindows() override { return windows; }
-    bool bringToForeground(WindowRef window) override { log(L"foreground", window); return window != 0; }
+    bool bringToForeground(WindowRef window) override { journal.push_back(L"foreground " + std::to_wstring(window)); return window != 0; }
     WindowRef windowAbove(WindowRef) override { return 0; }
     void restoreIfMinimised(WindowRef) override {}
     std::optional<std::wstring> registryString(RegistryRoot, S, S) override { return std::nullopt; }
