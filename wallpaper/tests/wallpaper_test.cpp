@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "app.h"
 #include "fake_system.h"
 #include "wallpaper.h"
@@ -9,9 +11,10 @@ namespace {
 
 TEST(PictureSize, FittingKeepsProportionsAndRoundsHalfToEven) {
     // Bands above and below (a PNG filling the screen: e2e), left and right; 3.33 high and 0.83 down; 2.5 and 0.5 to even.
-    const struct { PixelSize image, target; PixelRect drawn; } cases[] = {
+    const std::tuple<PixelSize, PixelSize, PixelRect> cases[] = {
         {{900, 1600}, {1280, 1024}, {352, 0, 576, 1024}}, {{3, 1}, {10, 5}, {0, 1, 10, 3}}, {{2, 1}, {5, 3}, {0, 0, 5, 2}}};
-    for (const auto& c : cases) EXPECT_EQ(FitKeepingAspect(c.image, c.target), c.drawn) << c.image.width << "x" << c.image.height;
+    for (const auto& [image, target, drawn] : cases)
+        EXPECT_EQ(FitKeepingAspect(image, target), drawn) << image.width << "x" << image.height;
 }
 
 TEST(PictureSize, PngHeadersAndNamesAreKnownBeforeDecoding) {
@@ -26,10 +29,10 @@ TEST(PictureSize, PngHeadersAndNamesAreKnownBeforeDecoding) {
 
 TEST(PictureSize, StretchedChoiceAndScrollBars) {
     // A small picture at its size, or stretched (e2e); as wide as the window counts as large.
-    const struct { PixelSize image; int setting; bool stretched; } choices[] = {
+    const std::tuple<PixelSize, int, bool> choices[] = {
         {{1600, 1200}, 0, true}, {{1600, 1200}, 1, false}, {{1280, 480}, 0, true}, {{640, 480}, 2, false}};
-    for (const auto& c : choices)
-        EXPECT_EQ(StartsStretched(c.image, {1280, 1024}, c.setting), c.stretched) << c.image.width << " " << c.setting;
+    for (const auto& [image, setting, stretched] : choices)
+        EXPECT_EQ(StartsStretched(image, {1280, 1024}, setting), stretched) << image.width << " " << setting;
 
     // Bars both ways would fit too, but none are needed; where a bar is needed, and scrolled pictures: the fuzz target.
     EXPECT_EQ(LayoutAtNaturalSize({1270, 1010}, {1280, 1024}, 17, 17), (ScrollLayout{false, false, {1280, 1024}}));
