@@ -10,7 +10,7 @@ namespace orvane {
 namespace {
 
 TEST(PictureSize, FittingKeepsProportionsAndRoundsHalfToEven) {
-    // Bands above and below (a PNG filling the screen: e2e), left and right; 3.33 high and 0.83 down; 2.5 and 0.5 to even.
+    // Bands left and right (above and below: e2e Wallpaper); 3.33 high and 0.83 down; 2.5 and 0.5 to even.
     const std::tuple<PixelSize, PixelSize, PixelRect> cases[] = {
         {{900, 1600}, {1280, 1024}, {352, 0, 576, 1024}}, {{3, 1}, {10, 5}, {0, 1, 10, 3}}, {{2, 1}, {5, 3}, {0, 0, 5, 2}}};
     for (const auto& [image, target, drawn] : cases)
@@ -23,8 +23,9 @@ TEST(PictureSize, PngHeadersAndNamesAreKnownBeforeDecoding) {
     EXPECT_FALSE(TooLargeToDecode({7680, 4320}));
     for (const std::string& head : {png.substr(0, 23), std::string(png).replace(1, 3, "GIF"), std::string()})
         EXPECT_EQ(PngSize(head), std::nullopt);
-    for (const wchar_t* name : {L"C:\\B.PNG", L"x.Png"}) EXPECT_TRUE(IsPngPath(name)) << name;
-    for (const wchar_t* name : {L"a.jpg", L"png", L"a.png ", L""}) EXPECT_FALSE(IsPngPath(name)) << name;
+    const std::pair<const wchar_t*, bool> names[] = {
+        {L"C:\\B.PNG", true}, {L"x.Png", true}, {L"a.jpg", false}, {L"png", false}, {L"a.png ", false}, {L"", false}};
+    for (const auto& [name, isPng] : names) EXPECT_EQ(IsPngPath(name), isPng) << name;
 }
 
 TEST(PictureSize, StretchedChoiceAndScrollBars) {
