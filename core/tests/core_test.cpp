@@ -253,12 +253,11 @@ TEST_F(Core, StartUpCallsTheWindowInOrderAndPlacesItAtTopOnlyWhereItsTopMeetsThe
                                  L"top 0", L"left 0", L"width 0", L"height 0", L"iconStrip",
                                  L"skin C:\\Orvane\\Skin_Alba.bmp", L"menuBar", L"openingSize"}));
     host.earlierInstance = false;
+    // The top as the window took it is kept; the other edges and the width as read: e2e StartUp.
     for (const auto& [areaTop, atTop] : {std::pair{0, false}, {300, true}, {315, false}}) {
         host.area.top = areaTop;
-        start({{1, "301"}, {2, "1207"}, {10, "9000"}, {11, "2000"}, {39, "12000"}});
-        EXPECT_EQ(host.calls[1], L"top 301");  // given as read; kept as the window took it
-        EXPECT_EQ(std::tuple(app.settings.MainTop, app.settings.MainLeft, state.atTop, app.settings.ExpandedWidth),
-                  std::tuple(300, 1200, atTop, 12000)) << areaTop;
+        start({{1, "301"}});
+        EXPECT_EQ(std::pair(app.settings.MainTop, state.atTop), std::pair(300, atTop)) << areaTop;
     }
     // A skin ending in ".bmp" in any case is used; the width within the work area and the fall-backs: e2e tests.
     sys.addFile(L"D:\\Skin_Blue.BMP");
@@ -309,15 +308,15 @@ TEST_F(Core, PathPiecesTheDocumentPathSearchOrderRelocationAndTheSuitePathSearch
     const wchar_t *notes = L"C:\\Drive_G\\T\\Notes.vrt", *stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
     // A document: drive folders are scanned from C on, so D's wins over E's; a path in a drive folder goes back to
     // its drive, or stays when that has nothing.
-    walk({{nullptr, L"", L""}, {nullptr, L"   ", L""}, {nullptr, L"G:\\a\\b.vrt", L"G:\\a\\b.vrt"},
+    walk({{nullptr, L"   ", L""}, {nullptr, L"G:\\a\\b.vrt", L"G:\\a\\b.vrt"},
           {L"E:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"E:\\Drive_G\\a\\b.vrt"},
           {L"D:\\Drive_G\\a\\b.vrt", L"G:\\a\\b.vrt", L"D:\\Drive_G\\a\\b.vrt"},
           {L"A:\\Drive_G\\x.vrt", L"G:\\x.vrt", L"G:\\x.vrt"}, {nullptr, notes, notes},
           {L"G:\\T\\Notes.vrt", notes, L"G:\\T\\Notes.vrt"}, {notes, notes, notes}},
          ResolveDocumentPath);
     EXPECT_EQ(TryDriveLetters(app, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
-    // Relocating maps between drive folders and drives.
-    walk({{nullptr, L"", L""}, {nullptr, L"G:\\TellmarkSet\\X\\X.exe", stored},
+    // Relocating maps between drive folders and drives (no name stays none: the suite path's last step).
+    walk({{nullptr, L"G:\\TellmarkSet\\X\\X.exe", stored},
           {L"D:\\Drive_G\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"},
           {L"G:\\TellmarkSet\\Y.exe", L"G:\\TellmarkSet\\Y.exe", L"G:\\TellmarkSet\\Y.exe"}},
          RelocateDrivePath);
