@@ -71,7 +71,7 @@ public:
 
 class Core : public ::testing::Test {
 protected:
-    Core() { app.ProgramFolder = L"C:\\Orvane"; app.MainWindowRef = 1; }
+    Core() { app.ProgramFolder = L"C:\\Orvane"; }
     void load(const std::string& bytes) { app.SettingsFilePath = kIni; sys.addFile(kIni, bytes); LoadSettings(app); }
     const std::string& save() { SaveSettings(app); return sys.files[kIni]; }
     // Starts the tool with the document (kept for a look afterwards); the program path as located.
@@ -169,8 +169,6 @@ TEST(Conversions, NumbersReadAsTheOldRuntimeDoesRoundingTrimmingAndLineSplitting
     EXPECT_EQ(SplitLines(L"a\r\nb\rc\nd\r\n\r\ne\r\n", 10), (Views{L"a", L"b", L"c", L"d", L"", L"e"}));
     EXPECT_EQ(SplitLines(L"a\nb\nc", 2), (Views{L"a", L"b"}));
 }
-
-// Launching.
 
 TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlankAndTheProgramIsSearchedFor) {
     const std::wstring program = L" C:\\Suite\\Tool.exe ";  // trimmed in a command with a document only
