@@ -251,13 +251,12 @@ TEST_F(Core, StartUpCallsTheWindowInOrderAndPlacesItAtTopOnlyWhereItsTopMeetsThe
                                  L"top 0", L"left 0", L"width 0", L"height 0", L"iconStrip",
                                  L"skin C:\\Orvane\\Skin_Alba.bmp", L"menuBar", L"openingSize"}));
     host.earlierInstance = false;
-    // The top as the window took it is kept; the other edges and the width as read: e2e StartUp.
     for (const auto& [areaTop, atTop] : {std::pair{0, false}, {300, true}, {315, false}}) {
         host.area.top = areaTop;
         start({{1, "301"}});
         EXPECT_EQ(std::pair(app.settings.MainTop, state.atTop), std::pair(300, atTop)) << areaTop;
     }
-    // A skin ending in ".bmp" in any case is used; the width within the work area and the fall-backs: e2e tests.
+    // A skin ending in ".bmp" in any case is used; the other edges, the widths and the fall-backs: e2e tests.
     sys.addFile(L"D:\\Skin_Blue.BMP");
     EXPECT_EQ(StartupSkin(sys, L"D:\\Skin_Blue.BMP", L"P"), L"D:\\Skin_Blue.BMP");
 }
