@@ -40,7 +40,6 @@ inline std::string EncodeWindows1252(const std::wstring& text) {
 
 class FakeSystem : public System {
     using S = const std::wstring&;
-    void log(const std::wstring& entry, long long n) { journal.push_back(entry + L" " + std::to_wstring(n)); }
     template <class T> static T next(std::vector<T>& queue, T otherwise) {  // the first scripted answer, consumed
         if (queue.empty()) return otherwise;
         const T answer = queue.front(); queue.erase(queue.begin()); return answer;
@@ -56,8 +55,6 @@ public:
     std::optional<long long> nextTask = 100;  // what every start returns
     bool shellAccepts = true;
     std::vector<TopLevelWindow> windows;
-    std::map<std::wstring, std::wstring> registry;  // "subkey\\value" under HKLM
-    std::map<int, std::wstring> specialFolders;
     OsVersion version{6, 1};
     std::vector<std::optional<std::wstring>> fileAnswers;  // consumed in order; cancelled when empty
     std::vector<MessageAnswer> answers;                    // consumed in order; Ok when empty
@@ -85,7 +82,7 @@ public:
     }
     std::wstring currentFolder() override { return current; }
     bool setCurrentFolder(S folder) override {
-        journal.push_back(L"cd " + folder); return folders.count(folder) && (current = folder, true);
+        return folders.count(folder) && (current = folder, true);
     }
     std::optional<FileFacts> fileFacts(S path) override {
         return fileExists(path) ? std::optional(FileFacts{files[path].size(), fileTime}) : std::nullopt;
@@ -94,25 +91,22 @@ public:
     std::wstring fromAnsi(const std::string& bytes) override { return DecodeWindows1252(bytes); }
     std::string toAnsi(S text) override { return EncodeWindows1252(text); }
     bool shellExecute(const ShellExecuteRequest& r) override {
-        journal.push_back(L"shellExecute " + r.verb + L" " + r.file);
         shellRequests.push_back(r); return shellAccepts;
     }
     std::optional<long long> startCommandLine(S commandLine, int showCode) override {
         journal.push_back(L"start " + commandLine); started.push_back({commandLine, showCode}); return nextTask;
     }
     long long shellVerb(WindowRef owner, S verb, S file, S directory, int showCode) override {
-        log(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show", showCode);
+        journal.push_back(L"verb " + verb + L" " + file + L" in " + directory + L" owner " + std::to_wstring(owner) + L" show " +
+                          std::to_wstring(showCode));
         return 42;
     }
     std::vector<TopLevelWindow> topLevelWindows() override { return windows; }
-    bool bringToForeground(WindowRef window) override { log(L"foreground", window); return window != 0; }
+    bool bringToForeground(WindowRef window) override { journal.push_back(L"foreground " + std::to_wstring(window)); return window != 0; }
     WindowRef windowAbove(WindowRef) override { return 0; }
-    void restoreIfMinimised(WindowRef window) override { log(L"restore", window); }
-    std::optional<std::wstring> registryString(RegistryRoot root, S subKey, S valueName) override {
-        const auto it = registry.find(subKey + L"\\" + valueName);
-        return root == RegistryRoot::LocalMachine && it != registry.end() ? std::optional(it->second) : std::nullopt;
-    }
-    std::wstring specialFolder(int csidl) override { return specialFolders[csidl]; }
+    void restoreIfMinimised(WindowRef) override {}
+    std::optional<std::wstring> registryString(RegistryRoot, S, S) override { return std::nullopt; }
+    std::wstring specialFolder(int) override { return {}; }
     OsVersion osVersion() override { return version; }
     DateTime now() override { return {2026, 11, 22, 0, 9, 5, 7}; }
     // The picture and the numbers the locale would have spelt out.

@@ -45,7 +45,7 @@ fuzz_all() {
   local seconds=$1 failed=() target corpus log
   local build="$ORVANE_ROOT/build" fuzz="$ORVANE_ROOT/tests/fuzz"
   mkdir -p "$build/fuzz-artifacts" "$build/fuzz-logs"
-  for target in settings custom_list web_list numbers ansi picture; do
+  for target in settings custom_list web_list numbers picture; do
     corpus="$build/fuzz-corpus/$target"
     mkdir -p "$corpus"
     case $target in
