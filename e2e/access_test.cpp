@@ -4,8 +4,7 @@
 
 #include "dispatch.h"
 #include "menu.h"
-#include "orvane_process.h"
-#include "program_windows.h"
+#include "program_test.h"
 #include "win_support.h"
 
 namespace orvane::e2e {
@@ -39,7 +38,7 @@ TEST(Access, EveryWindowWorksFromTheKeyboardAndNamesItsControls) {
     HWND strip = FindWindowExW(bar, nullptr, L"Orvane.IconStrip", nullptr);  // named for the icon the arrow keys reached
     EXPECT_EQ(TextOf(strip), IconName(0));
     PressKeys(bar, {VK_RIGHT});
-    EXPECT_TRUE(WaitFor([&] { return TextOf(strip) == IconName(1); }, 5s)) << Utf8(TextOf(strip));
+    EXPECT_TRUE(Becomes(IconName(1), TextOf, strip));
     ExpectUsableByKeyboard(L"bar", bar);
 
     for (const ProgramWindow& window : kProgramWindows) {

@@ -3,12 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <memory>
 
 #include "dpi.h"
 #include "layout.h"
 #include "menu.h"
-#include "orvane_process.h"
+#include "program_test.h"
 #include "resource.h"
 #include "win_support.h"
 
@@ -17,26 +16,15 @@ namespace {
 
 using namespace testsupport;
 
-class Commands : public ::testing::Test {
+class Commands : public ProgramTest {
 protected:
-    // A program folder with the given settings and the probe under the given names.
+    // The bar on these settings, in a program folder with a folder "My Office" and the probe under the given names.
     HWND start(const std::map<int, std::string>& settings, std::initializer_list<const wchar_t*> probes = {}) {
-        CreateDirectoryW((folder.path() + L"\\My Office").c_str(), nullptr);
+        CreateDirectoryW(file(L"My Office").c_str(), nullptr);
         for (const wchar_t* name : probes) CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder.path(), name);
-        WriteBytes(folder.settingsFile(), SettingsText(settings));
-        orvane = std::make_unique<OrvaneProcess>(folder);
-        return orvane->waitForMainWindow();
+        return ProgramTest::start(settings);
     }
-    std::vector<std::string> closeAndReadSettings() {
-        orvane->close();
-        EXPECT_EQ(orvane->waitForExit(), 0u);
-        return SplitCrLf(ReadBytes(folder.settingsFile()));
-    }
-    std::string path(const std::wstring& name) { return Utf8(folder.path() + L"\\" + name); }
     static RECT Rect(HWND window) { RECT r{}; GetWindowRect(window, &r); return r; }
-
-    ProgramFolder folder{Wide(::testing::UnitTest::GetInstance()->current_test_info()->name())};
-    std::unique_ptr<OrvaneProcess> orvane;
 };
 
 TEST_F(Commands, TheMenuShowsTheTableAndAProgramNotFoundIsReportedAndKept) {
@@ -54,24 +42,29 @@ TEST_F(Commands, TheMenuShowsTheTableAndAProgramNotFoundIsReportedAndKept) {
 
     PressKeys(bar, {VK_F9});  // "Load your program"
     HWND dialog = WaitForDialogTitled(orvane->id(), L"Load your program"); ASSERT_NE(dialog, nullptr);
-    SetControlText(dialog, IDC_PROGRAM, folder.path() + L"\\missing.exe");
+    SetControlText(dialog, IDC_PROGRAM, file(L"missing.exe"));
     PressButton(dialog, IDOK);
-    ASSERT_TRUE(AnswerMessage(orvane->id(), L"Cannot find this program:\r\n\r\n" + folder.path() + L"\\missing.exe"));
+    ASSERT_TRUE(AnswerMessage(orvane->id(), L"Cannot find this program:\r\n\r\n" + file(L"missing.exe")));
     EXPECT_TRUE(IsWindowVisible(dialog)) << "stays open";
-    PressKeys(dialog, {VK_ESCAPE});
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 5s));
+    ASSERT_TRUE(EscapeFrom(dialog));
     EXPECT_EQ(closeAndReadSettings().at(28), path(L"missing.exe"));
 }
 
-TEST_F(Commands, ASuiteToolBesideTheProgramStartsInItsFolderFromItsAccessLetter) {
-    HWND bar = start({}, {L"TS_Files.exe"}); ASSERT_NE(bar, nullptr);
+TEST_F(Commands, SuiteToolsBesideTheProgramStartInItsFolderFromAnAccessLetterAndWithADocumentPastMaxPath) {
+    const std::wstring deep = folder.path() + L"\\" + std::wstring(120, L'd') + L"\\" + std::wstring(120, L'e');
+    HWND bar = start({{3, Utf8(deep) + "\\deadlines.txt"}}, {L"TS_Files.exe", L"TS_ScratchPad.exe"}); ASSERT_NE(bar, nullptr);
+    CreateDirectoryW((L"\\\\?\\" + deep.substr(0, deep.rfind(L'\\'))).c_str(), nullptr);
+    CreateDirectoryW((L"\\\\?\\" + deep).c_str(), nullptr);
+    ASSERT_TRUE(WriteBytes(L"\\\\?\\" + deep + L"\\deadlines.txt", "x"));
     PressKeys(bar, {VK_MENU, 'F'});  // the File menu, then its item's access letter
     Sleep(300);
     PressKeys(bar, {'F'});
-    const auto started = ReadProbeLog(folder.path() + L"\\probe.log", 1);
-    ASSERT_EQ(started.size(), 1u);
-    EXPECT_EQ(std::pair(started[0].commandLine, started[0].folder),
+    const ProbeRecord started = ReadProbeLog(file(L"probe.log"), 1).at(0);
+    EXPECT_EQ(std::pair(started.commandLine, started.folder),
               std::pair("\"" + path(L"TS_Files.exe") + "\"", Utf8(folder.path())));
+    ASSERT_TRUE(PickMenuItem(bar, L"Load &Deadlines file"));
+    EXPECT_EQ(ReadProbeLog(file(L"probe.log"), 2).at(1).commandLine,
+              "\"" + path(L"TS_ScratchPad.exe") + "\" " + Utf8(deep) + "\\deadlines.txt");
 }
 
 TEST_F(Commands, WordStartsExcelIsReportedMissingAndWebmailOpensTheAddressGivenAndKeepsIt) {
@@ -79,44 +72,30 @@ TEST_F(Commands, WordStartsExcelIsReportedMissingAndWebmailOpensTheAddressGivenA
                      {L"My Office\\WINWORD.EXE", L"browser.exe"});
     ASSERT_NE(bar, nullptr);
     ASSERT_TRUE(PickMenuItem(bar, L"&Word"));  // its path has a blank and is not quoted
-    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\My Office\\probe.log", 1).at(0).commandLine,
+    EXPECT_EQ(ReadProbeLog(file(L"My Office\\probe.log"), 1).at(0).commandLine,
               path(L"My Office\\WINWORD.EXE"));
     ASSERT_TRUE(PickMenuItem(bar, L"E&xcel"));
     ASSERT_TRUE(AnswerMessage(
         orvane->id(), L"Cannot locate the following program/file:\r\n\r\nC:\\Program Files\\\\Microsoft Office\\Office\\EXCEL.EXE\r\n\r\n"));
 
-    ASSERT_TRUE(PickMenuItem(bar, L"Web interface U&RL"));
-    HWND box = WaitForDialogTitled(orvane->id(), L"Orvane"); ASSERT_NE(box, nullptr);
+    HWND box = FromMenu(*orvane, bar, L"Web interface U&RL", L"Orvane"); ASSERT_NE(box, nullptr);
     EXPECT_EQ(std::pair(ControlText(box, IDC_PROMPT), ControlText(box, IDC_BOX_TEXT)),
               std::pair(std::wstring(L"Enter URL for webmail interface"), std::wstring(L"https://old.example.org")));
     SetControlText(box, IDC_BOX_TEXT, L"https://mail.example.org/inbox");
     PressButton(box, IDOK);
-    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\probe.log", 1).at(0).commandLine,
+    EXPECT_EQ(ReadProbeLog(file(L"probe.log"), 1).at(0).commandLine,
               "\"" + path(L"browser.exe") + "\" https://mail.example.org/inbox");
     EXPECT_EQ(closeAndReadSettings().at(3), "https://mail.example.org/inbox");
 }
 
-TEST_F(Commands, ADocumentPastMaxPathGoesToItsTool) {
-    const std::wstring deep = folder.path() + L"\\" + std::wstring(120, L'd') + L"\\" + std::wstring(120, L'e');
-    HWND bar = start({{3, Utf8(deep) + "\\deadlines.txt"}}, {L"TS_ScratchPad.exe"}); ASSERT_NE(bar, nullptr);
-    CreateDirectoryW((L"\\\\?\\" + deep.substr(0, deep.rfind(L'\\'))).c_str(), nullptr);
-    CreateDirectoryW((L"\\\\?\\" + deep).c_str(), nullptr);
-    ASSERT_TRUE(WriteBytes(L"\\\\?\\" + deep + L"\\deadlines.txt", "x"));
-    ASSERT_TRUE(PickMenuItem(bar, L"Load &Deadlines file"));
-    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\probe.log", 1).at(0).commandLine,
-              "\"" + path(L"TS_ScratchPad.exe") + "\" " + Utf8(deep) + "\\deadlines.txt");
-}
-
 TEST_F(Commands, FileDialogsFillOrKeepSettingsAndAltQEndsTheProgram) {
     HWND bar = start({{3, "C:\\Old\\Deadlines.vrt"}}, {L"browser.exe"}); ASSERT_NE(bar, nullptr);
-    ASSERT_TRUE(PickMenuItem(bar, L"Get c&ustom browser"));
-    HWND dialog = WaitForDialogTitled(orvane->id(), L"Get custom browser");
-    ASSERT_TRUE(AnswerFileDialog(dialog, folder.path() + L"\\browser.exe"));
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 10s));
-    ASSERT_TRUE(PickMenuItem(bar, L"&Get Deadlines file"));
-    ASSERT_NE(dialog = WaitForDialogTitled(orvane->id(), L"Specify Deadlines file"), nullptr);
+    HWND dialog = FromMenu(*orvane, bar, L"Get c&ustom browser", L"Get custom browser");
+    ASSERT_TRUE(AnswerFileDialog(dialog, file(L"browser.exe")));
+    ASSERT_TRUE(Gone(dialog, 10s));
+    ASSERT_NE(dialog = FromMenu(*orvane, bar, L"&Get Deadlines file", L"Specify Deadlines file"), nullptr);
     PressButton(dialog, IDCANCEL);
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }, 10s));
+    ASSERT_TRUE(Gone(dialog, 10s));
     PressKeys(bar, {VK_MENU, 'Q'});
     ASSERT_EQ(orvane->waitForExit(), 0u) << "Alt+Q";
     const auto settings = SplitCrLf(ReadBytes(folder.settingsFile()));
@@ -158,7 +137,7 @@ TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
     const RECT window = Rect(bar), band = Rect(strip);
     const double left = LayStrip(MulDiv(window.right - window.left, 1440, dpi), 0).iconLeft[10];
     ClickAt({window.left + static_cast<int>(left * dpi / 1440) + MulDiv(240, dpi, 1440), (band.top + band.bottom) / 2});
-    EXPECT_EQ(ReadProbeLog(folder.path() + L"\\probe.log", 1).at(0).commandLine, path(L"WINWORD.EXE"));
+    EXPECT_EQ(ReadProbeLog(file(L"probe.log"), 1).at(0).commandLine, path(L"WINWORD.EXE"));
     EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Alba.bmp"));
 }
 
@@ -168,14 +147,12 @@ TEST_F(Commands, ADarkSkinChosenInTheChooserColoursTheMenuBarAndIsKept) {
     POINT item{GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYMENU) / 2};
     ClientToScreen(bar, &item);
     const auto light = [&] { const COLORREF c = ScreenColour(item); return GetRValue(c) + GetGValue(c) + GetBValue(c) >= 384; };
-    EXPECT_TRUE(WaitFor(light, 5s)) << "the default skin is light";
-    ASSERT_TRUE(PickMenuItem(bar, L"Change &skin"));
-    HWND chooser = WaitForDialogTitled(orvane->id(), L"Change skin"); ASSERT_NE(chooser, nullptr);
+    EXPECT_TRUE(Becomes(true, light)) << "the default skin is light";
+    HWND chooser = FromMenu(*orvane, bar, L"Change &skin", L"Change skin"); ASSERT_NE(chooser, nullptr);
     EXPECT_EQ(ControlText(chooser, IDC_SKIN_FOLDER), folder.path());
     for (WORD key : {VK_END, VK_RETURN}) PressKeys(chooser, {key});  // Skin_Slate.bmp, last of the four
-    EXPECT_TRUE(WaitFor([&] { return !light(); }, 5s)) << "the menu bar takes the dark skin's colours";
-    PressKeys(chooser, {VK_ESCAPE});
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(chooser); }, 5s));
+    EXPECT_TRUE(Becomes(false, light)) << "the menu bar takes the dark skin's colours";
+    ASSERT_TRUE(EscapeFrom(chooser));
     EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Slate.bmp"));
 }
 

@@ -4,11 +4,12 @@
 //   driver.exe pick CAPTION  picks the bar's menu item with this caption, as a click does
 //   driver.exe rect TITLE  prints a dialog's place on the screen as WxH+X+Y, once it is shown ("Name*" for a prefix)
 //   driver.exe leave TITLE closes a dialog that asks for the return password, none being set
-//   driver.exe close-bar   closes the bar as its close box does and waits until it has ended
+//   driver.exe close-bar   closes the bar as its close box does and waits until it has gone (the scripts then wait
+//                          for the program to end)
 #include <cstdio>
 #include <string>
 
-#include "orvane_process.h"
+#include "program_windows.h"
 #include "win_support.h"
 
 using namespace orvane;
@@ -18,17 +19,14 @@ constexpr std::chrono::seconds kLong(30);
 int wmain(int argc, wchar_t** argv) {
     const std::wstring step = argc > 1 ? argv[1] : L"";
     if (step == L"rect" && argc > 2) {
-        HWND dialog = nullptr;
-        WaitFor([&] { return (dialog = FindProcessWindow(0, e2e::kDialogClass, argv[2])) != nullptr; }, kLong);
+        HWND dialog = e2e::WaitForDialogTitled(0, argv[2], kLong);
         RECT r{};
         return dialog && GetWindowRect(dialog, &r) ? std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top), 0 : 1;
     }
     if (step == L"leave" && argc > 2) {
-        HWND window = FindProcessWindow(0, e2e::kDialogClass, argv[2]), box = nullptr;
+        HWND window = FindProcessWindow(0, e2e::kDialogClass, argv[2]);
         if (window) PostMessageW(window, WM_CLOSE, 0, 0);
-        WaitFor([&] { return (box = FindProcessWindow(0, e2e::kDialogClass, L"Orvane")) != nullptr; }, kLong);
-        if (box) e2e::PressButton(box, IDOK);
-        return window && box && WaitFor([&] { return !IsWindow(window); }, kLong) ? 0 : 1;
+        return window && e2e::AnswerPassword(0, L"") && e2e::Gone(window, kLong) ? 0 : 1;
     }
     if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar" && !(step == L"pick" && argc > 2)) {
         std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | leave TITLE | close-bar\n");
@@ -41,11 +39,6 @@ int wmain(int argc, wchar_t** argv) {
     if (step == L"open-menu") e2e::PressKeys(bar, {VK_MENU, 'F'});
     if (step == L"pick") return e2e::PickMenuItem(bar, argv[2]) ? 0 : 1;
     if (step != L"close-bar") return 0;
-    DWORD processId = 0;
-    GetWindowThreadProcessId(bar, &processId);
-    HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
     PostMessageW(bar, WM_CANCELMODE, 0, 0), PostMessageW(bar, WM_CLOSE, 0, 0);  // after closing a menu left open
-    const bool ended = process && WaitForSingleObject(process, 30000) == WAIT_OBJECT_0;
-    if (process) CloseHandle(process);
-    return ended ? 0 : 1;
+    return e2e::Gone(bar, kLong) ? 0 : 1;
 }

@@ -8,7 +8,7 @@
 #include <tuple>
 
 #include "dpi.h"
-#include "orvane_process.h"
+#include "program_test.h"
 #include "resource.h"
 #include "version.h"
 #include "win_support.h"
@@ -68,12 +68,10 @@ TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     HWND bar = orvane.waitForMainWindow(); ASSERT_NE(bar, nullptr);
     EXPECT_EQ(TextOf(bar), L"Orvane");
     EXPECT_EQ(orvane.waitForDialog(0ms), nullptr) << "one message only";
-    ASSERT_TRUE(PickMenuItem(bar, L"&About this program"));
-    HWND about = WaitForDialogTitled(orvane.id(), L"About Orvane");
+    HWND about = FromMenu(orvane, bar, L"&About this program", L"About Orvane");
     ASSERT_NE(about, nullptr);
     EXPECT_EQ(ControlText(about, IDC_ABOUT_VERSION), L"Version " ORVANE_VERSION_TEXT);
-    PressKeys(about, {VK_ESCAPE});
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(about); }, 5s));
+    ASSERT_TRUE(EscapeFrom(about));
     const auto closed = Close(orvane, bar, folder);
     ASSERT_TRUE(closed);
     const RECT& r = closed->bar;
@@ -89,7 +87,7 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
     OrvaneProcess first(folder);
     HWND bar = first.waitForMainWindow();
     ASSERT_TRUE(bar && PostMessageW(bar, WM_SYSCOMMAND, SC_MINIMIZE, 0));
-    ASSERT_TRUE(WaitFor([&] { return IsIconic(bar) != FALSE; }, 5s));
+    ASSERT_TRUE(Becomes(TRUE, IsIconic, bar));
 
     OrvaneProcess second(folder);
     bool secondShowedAWindow = false;
@@ -98,7 +96,8 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
         return second.waitForExit(0ms).has_value();
     }, 15s);
     EXPECT_EQ(std::pair(second.waitForExit(0ms), secondShowedAWindow), std::pair(std::optional<DWORD>(0u), false));
-    EXPECT_TRUE(WaitFor([&] { return !IsIconic(bar) && GetForegroundWindow() == bar; }, 5s)) << "restored, in front";
+    EXPECT_TRUE(Becomes(FALSE, IsIconic, bar)) << "restored";
+    EXPECT_TRUE(Becomes(bar, GetForegroundWindow)) << "in front";
     EXPECT_EQ(ReadBytes(folder.settingsFile()), settings);
     const auto closed = Close(first, bar, folder);
     ASSERT_TRUE(closed);  // where it was put, and the file written from there

@@ -65,12 +65,19 @@ std::wstring MessageBoxText(HWND box) { return ControlText(box, 0xFFFF); }  // t
 
 void PressButton(HWND dialog, int buttonId) { PostMessageW(GetDlgItem(dialog, buttonId), BM_CLICK, 0, 0); }
 
+bool Gone(HWND window, std::chrono::milliseconds timeout) { return WaitFor([&] { return !IsWindow(window); }, timeout); }
+
+bool EscapeFrom(HWND window) {
+    PressKeys(window, {VK_ESCAPE});
+    return Gone(window);
+}
+
 bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId, const std::wstring& title) {
     HWND box = WaitForDialogTitled(processId, title);
     if (!box || MessageBoxText(box) != text)
         return std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str()), false;
     PressButton(box, buttonId);
-    return WaitFor([&] { return !IsWindow(box); }, 5s);
+    return Gone(box);
 }
 
 std::vector<MenuItem> ReadMenu(HWND window) {
@@ -180,14 +187,14 @@ std::vector<std::wstring> AskRemote(HWND listView, UINT message, int count, Requ
     return texts;
 }
 
-int Rows(HWND listView) { return int(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); }
-
 }  // namespace
+
+int ListViewRows(HWND listView) { return int(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); }
 
 std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
     LVITEMW item{};
     item.mask = LVIF_TEXT, item.iSubItem = column;
-    return AskRemote(listView, LVM_GETITEMTEXTW, Rows(listView), item);
+    return AskRemote(listView, LVM_GETITEMTEXTW, ListViewRows(listView), item);
 }
 
 std::vector<std::wstring> ListViewColumns(HWND listView) {
@@ -199,7 +206,7 @@ std::vector<std::wstring> ListViewColumns(HWND listView) {
 
 std::vector<bool> ListViewChecks(HWND listView) {
     std::vector<bool> checks;
-    for (int row = 0; row < Rows(listView); ++row)
+    for (int row = 0; row < ListViewRows(listView); ++row)
         checks.push_back((SendMessageW(listView, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2);
     return checks;
 }

@@ -56,6 +56,10 @@ private:
 std::wstring MessageBoxText(HWND box);
 // Presses a dialog's button, as a click does.
 void PressButton(HWND dialog, int buttonId);
+// True once the window has gone, within the time.
+bool Gone(HWND window, std::chrono::milliseconds timeout = 5s);
+// Presses Esc in the window, as a user leaves a dialog; true once it has gone.
+bool EscapeFrom(HWND window);
 // Checks the text of the program's message box, once it shows, and answers it with a button; true once it has gone.
 bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId = IDOK, const std::wstring& title = L"Orvane");
 
@@ -112,7 +116,8 @@ bool AnswerFileDialog(HWND dialog, const std::wstring& fileName);
 
 // The texts of a list view's rows in this column (0 the items' own, 1 and up their subitems), read inside its process.
 std::vector<std::wstring> ListViewTexts(HWND listView, int column);
-// The rows' check marks.
+// The number of its rows, and their check marks.
+int ListViewRows(HWND listView);
 std::vector<bool> ListViewChecks(HWND listView);
 // The text on the clipboard, empty when it holds none.
 std::wstring ClipboardText();

@@ -14,23 +14,10 @@ namespace {
 
 constexpr wchar_t kPopupMenuClass[] = L"#32768";
 
-bool Gone(HWND window) { return WaitFor([&] { return !IsWindow(window); }, 5s); }
-
-HWND FromMenu(const OrvaneProcess& orvane, HWND window, const wchar_t* caption, const wchar_t* title) {
-    return PickMenuItem(window, caption) ? WaitForDialogTitled(orvane.id(), title) : nullptr;
-}
-
-// An item of the custom programs window's popup menu, by its access letter from the keyboard.
+// An item of the custom programs window's popup menu, from the bar.
 HWND FromCustomPopup(const OrvaneProcess& orvane, HWND bar, WORD letter, const wchar_t* title) {
     HWND custom = FromMenu(orvane, bar, L"C&ustom programs", L"Custom programs");
-    if (custom) PressKeys(custom, {VK_SHIFT, VK_F10});
-    if (!custom || !WaitFor([&] { return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr; }, 5s)) return nullptr;
-    // The letter again while the menu stays open: one typed as it appears can miss it.
-    for (int press = 0; press < 3 && FindProcessWindow(orvane.id(), kPopupMenuClass); ++press) {
-        PressKeys(custom, {letter});
-        if (HWND dialog = WaitForDialogTitled(orvane.id(), title, 2s)) return dialog;
-    }
-    return WaitForDialogTitled(orvane.id(), title);
+    return custom ? FromPopupMenu(orvane, custom, letter, title) : nullptr;
 }
 
 HWND ListEditor(const OrvaneProcess& orvane, HWND bar) { return FromCustomPopup(orvane, bar, 'E', L"Custom programs ( *"); }
@@ -44,8 +31,7 @@ bool EscapeToBar(const OrvaneProcess&, HWND window) {
         HWND owner = GetWindow(window, GW_OWNER);
         wchar_t type[64] = {};
         GetClassNameW(owner, type, 64);
-        PressKeys(window, {VK_ESCAPE});
-        if (!Gone(window)) return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
+        if (!EscapeFrom(window)) return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
         window = std::wstring(type) == kMainWindowClass ? nullptr : owner;
     }
     return true;
@@ -54,13 +40,25 @@ bool EscapeToBar(const OrvaneProcess&, HWND window) {
 // Esc asks for the return password; none being set, an empty answer lets the user out.
 bool LeaveWallpaper(const OrvaneProcess& orvane, HWND window) {
     PressKeys(window, {VK_ESCAPE});
-    HWND box = WaitForDialogTitled(orvane.id(), L"Orvane");
-    if (!box || ControlText(box, IDC_PROMPT) != kPasswordPrompt) return false;
-    PressButton(box, IDOK);
-    return Gone(box) && Gone(window);
+    return AnswerPassword(orvane.id(), L"") && Gone(window);
 }
 
 }  // namespace
+
+HWND FromMenu(const OrvaneProcess& orvane, HWND window, const wchar_t* caption, const std::wstring& title) {
+    return window && PickMenuItem(window, caption) ? WaitForDialogTitled(orvane.id(), title) : nullptr;
+}
+
+HWND FromPopupMenu(const OrvaneProcess& orvane, HWND window, WORD letter, const std::wstring& title) {
+    PressKeys(window, {VK_SHIFT, VK_F10});
+    if (!WaitFor([&] { return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr; }, 5s)) return nullptr;
+    // The letter again while the menu stays open: one typed as it appears can miss it.
+    for (int press = 0; press < 3 && FindProcessWindow(orvane.id(), kPopupMenuClass); ++press) {
+        PressKeys(window, {letter});
+        if (HWND dialog = WaitForDialogTitled(orvane.id(), title, 2s)) return dialog;
+    }
+    return WaitForDialogTitled(orvane.id(), title);
+}
 
 // clang-format off
 const std::vector<ProgramWindow> kProgramWindows = {
@@ -89,6 +87,14 @@ const std::vector<ProgramWindow> kProgramWindows = {
     {L"wallpaper", FROM_MENU(L"Wa&llpaper", L"Wallpaper"), LeaveWallpaper},
 };
 // clang-format on
+
+bool AnswerPassword(DWORD processId, const std::wstring& typed) {
+    HWND box = WaitForDialogTitled(processId, L"Orvane");
+    if (!box || ControlText(box, IDC_PROMPT) != kPasswordPrompt) return false;
+    SetControlText(box, IDC_BOX_TEXT, typed);
+    PressButton(box, IDOK);
+    return Gone(box);
+}
 
 void PrepareForEveryWindow(const ProgramFolder& folder) {
     const std::wstring at = folder.path() + L"\\";

@@ -24,6 +24,15 @@ struct ProgramWindow {
 // web list and the wallpaper. The shell's folder dialog is the system's, not the program's, and is left out.
 extern const std::vector<ProgramWindow> kProgramWindows;
 
+// Picks the window's menu item with this caption; the dialog with this title it opens, once it shows, else null.
+HWND FromMenu(const OrvaneProcess& orvane, HWND window, const wchar_t* caption, const std::wstring& title);
+// Picks an item of the window's popup menu (Shift+F10) by its access letter, from the keyboard; the dialog with this
+// title it opens, once it shows, else null.
+HWND FromPopupMenu(const OrvaneProcess& orvane, HWND window, WORD letter, const std::wstring& title);
+// Types this into the wallpaper's box asking for the return password (of the process, of any for 0) and presses OK;
+// true once the box has gone.
+bool AnswerPassword(DWORD processId, const std::wstring& typed);
+
 // Writes the settings file, a custom programs list, a web list and a wallpaper into the folder, so that every window
 // of the table opens without a message.
 void PrepareForEveryWindow(const ProgramFolder& folder);
