@@ -1,4 +1,4 @@
-// frmShowTimer's texts: the date picture and the labels of one tick.
+// The clock window's texts: the date picture and the labels of one tick.
 #pragma once
 
 #include <string>
