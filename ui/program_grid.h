@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "controls.h"
 #include "handles.h"
 #include "program_list.h"
 
@@ -48,7 +49,7 @@ private:
     int iconOf(int row);
     int scaled(int pixels) const;
 
-    HWND list_ = nullptr;
+    ListView list_;
     GridPointer* pointer_ = nullptr;
     std::vector<std::size_t> entries_;
     std::vector<std::wstring> names_, programs_;
