@@ -1,5 +1,6 @@
-// The custom programs window: the user's own programs in two grids, started by Enter
-// or a double click, with a popup menu and a set of buttons around them.
+// The custom programs window: the user's own programs in two grids, started
+// by Enter or a double click, with a popup menu and a set of buttons around
+// them.
 #include <windows.h>
 #include <commctrl.h>
 
@@ -128,8 +129,8 @@ private:
         POINT at{static_cast<short>(LOWORD(where)), static_cast<short>(HIWORD(where))};
         if (where == -1) {  // from the keyboard: at the current row
             RECT row{};
-            HWND list = grid(active_).hwnd();
-            if (!ListView_GetItemRect(list, std::max(0, grid(active_).currentRow()), &row, LVIR_BOUNDS)) GetClientRect(list, &row);
+            const ListView list(grid(active_).hwnd());
+            if (!list.rowRect(std::max(0, grid(active_).currentRow()), row)) GetClientRect(list, &row);
             at = {row.left + scaled(16), row.bottom};
             ClientToScreen(list, &at);
         }

@@ -1,10 +1,10 @@
-// The custom list editor: the 64 lines of the list, each a number, a name field and a
-// program field, scrolling in their panel; every edit goes straight into the
-// shared table, through the editor's rules.
+// The custom list editor: the 64 lines of the list, each a number, a name
+// field and a program field, scrolling in their panel; every edit goes
+// straight into the shared table, through the editor's rules.
 #include <windows.h>
-#include <commctrl.h>
 
 #include "app.h"
+#include "controls.h"
 #include "dialogs.h"
 #include "dpi.h"
 #include "list_editor.h"
@@ -118,8 +118,7 @@ private:
             for (const auto& [id, x, width] : {std::tuple(IDC_FIRST_NAME_FIELD + line, marker + number, name - scaled(4)),
                                                std::tuple(IDC_FIRST_PROGRAM_FIELD + line, marker + number + name,
                                                           static_cast<int>(client.right) - marker - number - name)}) {
-                HWND edit = make(L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE, id, L"", x, y, width);
-                SetWindowSubclass(edit, &ListEditorWindow::FieldKeys, 1, reinterpret_cast<DWORD_PTR>(this));
+                fieldKeys_.attach(make(L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE, id, L"", x, y, width));
             }
         }
         SCROLLINFO info{sizeof info, SIF_RANGE | SIF_PAGE | SIF_POS, 0, kLines * pitch - 1,
@@ -183,23 +182,6 @@ private:
             return true;
         }
         return false;
-    }
-
-    static LRESULT CALLBACK FieldKeys(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
-        auto* self = reinterpret_cast<ListEditorWindow*>(data);
-        switch (message) {
-        case WM_GETDLGCODE:  // Enter belongs to the field, not to the dialog
-            if (wParam == VK_RETURN) return DLGC_WANTMESSAGE | DefSubclassProc(edit, message, wParam, lParam);
-            break;
-        case WM_KEYDOWN:
-            if (self->fieldKey(GetDlgCtrlID(edit), wParam)) return 0;
-            break;
-        case WM_CHAR:
-            if (wParam == L'\r') return 0;
-            break;
-        case WM_NCDESTROY: RemoveWindowSubclass(edit, &ListEditorWindow::FieldKeys, 1); break;
-        }
-        return DefSubclassProc(edit, message, wParam, lParam);
     }
 
     void fieldEvent(int id, int code) {
@@ -275,6 +257,8 @@ private:
     CustomProgramTable& table_;
     CustomListEditor editor_;
     MenuBar menu_{EditorMenuRows()};
+    // Enter belongs to the field, not to the dialog.
+    FieldKeys fieldKeys_{{VK_RETURN}, false, [this](HWND field, WPARAM key) { return fieldKey(GetDlgCtrlID(field), key); }};
 };
 
 }  // namespace

@@ -31,24 +31,19 @@ HIMAGELIST SystemImageList(const std::wstring& path, int& index) {
 void ProgramGrid::create(HWND parent, int id, GridPointer& pointer, const Skin& skin) {
     pointer_ = &pointer;
     skin_ = &skin;
-    list_ = CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"",
-                            WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL |
-                                LVS_SHOWSELALWAYS,
-                            0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                            GetModuleHandleW(nullptr), nullptr);
-    ListView_SetExtendedListViewStyle(list_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+    list_ = ListView(CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"",
+                                     WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER |
+                                         LVS_SINGLESEL | LVS_SHOWSELALWAYS,
+                                     0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                     GetModuleHandleW(nullptr), nullptr));
+    list_.setExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
     // Screen readers name the columns, though no header shows them.
     const wchar_t* captions[] = {L"Icon", L"Program"};
-    for (int column = 0; column < 2; ++column) {
-        LVCOLUMNW c{};
-        c.mask = LVCF_TEXT | LVCF_WIDTH;
-        c.pszText = const_cast<wchar_t*>(captions[column]);
-        c.cx = scaled(kIconColumn);
-        ListView_InsertColumn(list_, column, &c);
-    }
+    for (int column = 0; column < 2; ++column)
+        list_.insertColumn(column, captions[column], scaled(kIconColumn));
     // An empty image list of the row's height gives every row that height.
     rowHeight_.reset(ImageList_Create(1, scaled(kRowHeight), ILC_COLOR32, 0, 0));
-    ListView_SetImageList(list_, rowHeight_.get(), LVSIL_SMALL);
+    list_.setImageList(rowHeight_.get(), LVSIL_SMALL);
     SetWindowSubclass(list_, &ProgramGrid::Subclass, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
@@ -59,17 +54,13 @@ void ProgramGrid::fill(const CustomProgramTable& table, const std::vector<std::s
     names_.clear();
     programs_.clear();
     icons_.assign(entries.size(), kUnknownIcon);
-    ListView_DeleteAllItems(list_);
+    list_.deleteAllItems();
     for (std::size_t row = 0; row < entries.size(); ++row) {
         names_.push_back(table.DisplayNames[entries[row]]);
         programs_.push_back(TrimBlanks(table.ProgramPaths[entries[row]]));
         // The name in both columns: a screen reader reads the first.
-        LVITEMW item{};
-        item.mask = LVIF_TEXT;
-        item.iItem = static_cast<int>(row);
-        item.pszText = names_.back().data();
-        ListView_InsertItem(list_, &item);
-        ListView_SetItemText(list_, static_cast<int>(row), 1, names_.back().data());
+        list_.insertItem(static_cast<int>(row), names_.back().data());
+        list_.setItemText(static_cast<int>(row), 1, names_.back().data());
     }
 }
 
@@ -77,17 +68,17 @@ void ProgramGrid::place(const RECT& area) {
     MoveWindow(list_, area.left, area.top, area.right - area.left, area.bottom - area.top, TRUE);
     RECT client{};
     GetClientRect(list_, &client);
-    ListView_SetColumnWidth(list_, 0, scaled(kIconColumn));
-    ListView_SetColumnWidth(list_, 1, std::max(0, static_cast<int>(client.right) - scaled(kIconColumn)));
+    list_.setColumnWidth(0, scaled(kIconColumn));
+    list_.setColumnWidth(1, std::max(0, static_cast<int>(client.right) - scaled(kIconColumn)));
 }
 
-int ProgramGrid::currentRow() const { return ListView_GetNextItem(list_, -1, LVNI_FOCUSED); }
+int ProgramGrid::currentRow() const { return list_.currentRow(); }
 
 void ProgramGrid::setCurrentRow(int row) {
     if (row < 0 || row >= rowCount()) return;
-    ListView_SetItemState(list_, -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
-    ListView_SetItemState(list_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-    ListView_EnsureVisible(list_, row, FALSE);
+    list_.setItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    list_.setItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    list_.ensureVisible(row);
 }
 
 void ProgramGrid::ensureCurrentRow() {
@@ -116,9 +107,9 @@ LRESULT ProgramGrid::customDraw(NMLVCUSTOMDRAW& draw) {
 
 void ProgramGrid::drawRow(HDC dc, int row, UINT state) {
     if (row < 0 || row >= rowCount()) return;
-    RECT whole{}, name{};
-    ListView_GetItemRect(list_, row, &whole, LVIR_BOUNDS);
-    ListView_GetSubItemRect(list_, row, 1, LVIR_BOUNDS, &name);
+    RECT whole{};
+    list_.rowRect(row, whole);
+    const RECT name = list_.cellRect(row, 1);
     const RECT icon{whole.left, whole.top, name.left, whole.bottom};
     const bool iconEntered = hot_.x == row && hot_.y == 0, nameEntered = hot_.x == row && hot_.y == 1;
 
@@ -160,8 +151,7 @@ void ProgramGrid::drawRow(HDC dc, int row, UINT state) {
 
 void ProgramGrid::pointerAt(POINT point) {
     LVHITTESTINFO hit{};
-    hit.pt = point;
-    const POINT cell = ListView_SubItemHitTest(list_, &hit) >= 0 ? POINT{hit.iItem, hit.iSubItem} : POINT{-1, -1};
+    const POINT cell = list_.hitTest(point, hit) >= 0 ? POINT{hit.iItem, hit.iSubItem} : POINT{-1, -1};
     if (cell.x == hot_.x && cell.y == hot_.y) return;
     hot_ = cell;
     if (cell.x >= 0 && !pointer_->seen) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "controls.h"
 #include "handles.h"
 #include "program_list.h"
 
@@ -51,7 +52,7 @@ private:
     int iconOf(int row);
     int scaled(int pixels) const;
 
-    HWND list_ = nullptr;
+    ListView list_;
     GridPointer* pointer_ = nullptr;
     const Skin* skin_ = nullptr;
     std::vector<std::size_t> entries_;

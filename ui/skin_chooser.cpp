@@ -1,8 +1,9 @@
-// The skin chooser: the skins of the skin folder, a preview of the selected one,
-// and the commands that apply it. What is applied stays applied on exit.
+// The skin chooser: the skins of the skin folder, a preview of the selected
+// one, and the commands that apply it. What is applied stays applied on exit.
 #include <optional>
 
 #include "app.h"
+#include "controls.h"
 #include "dialogs.h"
 #include "handles.h"
 #include "modal_dialog.h"
@@ -21,11 +22,11 @@ public:
         : ModalDialog(skin), app_(app), actions_(actions) {}
 
 private:
-    HWND list() const { return GetDlgItem(hwnd(), IDC_SKIN_FILES); }
+    ListBox list() const { return ListBox(GetDlgItem(hwnd(), IDC_SKIN_FILES)); }
 
     // The skin files of SkinFolder; none when it is missing.
     void fillList() {
-        SendMessageW(list(), LB_RESETCONTENT, 0, 0);
+        list().clear();
         if (app_.settings.SkinFolder.empty()) return;
         WIN32_FIND_DATAW found;
         const std::wstring pattern = SkinPathInFolder(app_.settings.SkinFolder, L"Skin_*.bmp");
@@ -33,16 +34,12 @@ private:
         for (bool more = static_cast<bool>(search); more; more = FindNextFileW(search.get(), &found))
             // The short 8.3 names match the pattern too ("Skin_A.bmpx" as SKIN_A~1.BMP): the long name decides.
             if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && IsSkinFileName(found.cFileName))
-                SendMessageW(list(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(found.cFileName));
+                list().add(found.cFileName);
     }
 
     std::wstring selectedName() const {
-        const LRESULT at = SendMessageW(list(), LB_GETCURSEL, 0, 0);
-        if (at == LB_ERR) return {};
-        std::wstring name(static_cast<std::size_t>(SendMessageW(list(), LB_GETTEXTLEN, at, 0)) + 1, L'\0');
-        const LRESULT length = SendMessageW(list(), LB_GETTEXT, at, reinterpret_cast<LPARAM>(name.data()));
-        name.resize(length == LB_ERR ? 0 : static_cast<std::size_t>(length));
-        return name;
+        const int at = list().selection();
+        return at < 0 ? std::wstring() : list().text(at);
     }
 
     void showPreview() {
@@ -78,13 +75,10 @@ private:
         const std::wstring& file = app_.settings.SkinFile;
         const std::wstring name = file.substr(file.find_last_of(L'\\') + 1);
         // Names compare as the file system does: "skin_blue.BMP" selects Skin_Blue.bmp.
-        const LRESULT at = name.empty() ? LB_ERR
-                                        : SendMessageW(list(), LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                                       reinterpret_cast<LPARAM>(name.c_str()));
-        SendMessageW(list(), LB_SETCURSEL, static_cast<WPARAM>(at), 0);
+        list().setSelection(name.empty() ? -1 : list().findExact(name));
         showPreview();
         // After the dialog manager has given the focus to the first control.
-        PostMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list()), TRUE);
+        PostMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(static_cast<HWND>(list())), TRUE);
     }
 
     // Enter outside the buttons arrives as the default button (Use this skin), Esc as IDCANCEL.

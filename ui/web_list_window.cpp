@@ -1,15 +1,15 @@
-// The web list window: the websites of a web list in a virtual list view, whose rows,
-// check marks and texts come from the model, with the browser entries, the
-// group panel over the list and the edit panel in the buttons' place.
+// The web list window: the websites of a web list in a virtual list view,
+// whose rows, check marks and texts come from the model, with the browser
+// entries, the group panel over the list and the edit panel in the buttons'
+// place.
 #include <windows.h>
 #include <commctrl.h>
 
 #include <array>
-#include <tuple>
-#include <utility>
 
 #include "app.h"
 #include "commands.h"
+#include "controls.h"
 #include "dialogs.h"
 #include "dpi.h"
 #include "launch.h"
@@ -43,29 +43,23 @@ public:
 
 private:
     HWND item(int id) const { return GetDlgItem(hwnd(), id); }
-    HWND rows() const { return item(IDC_WEB_ROWS); }
-    HWND groups() const { return item(IDC_GROUP_LIST); }
+    ListView rows() const { return ListView(item(IDC_WEB_ROWS)); }
+    ListBox groups() const { return ListBox(item(IDC_GROUP_LIST)); }
     int count() const { return static_cast<int>(list_.rows.size()); }
 
     void onInit() override {
         menu_.setColours(hwnd(), skin().menuColours());
         menu_.buildGrowing(hwnd());
-        ListView_SetExtendedListViewStyle(rows(), LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-        ListView_SetCallbackMask(rows(), LVIS_STATEIMAGEMASK);  // the check marks are the model's
+        rows().setExtendedStyle(LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+        rows().setCallbackMask(LVIS_STATEIMAGEMASK);  // the check marks are the model's
         RECT client{};
         GetClientRect(rows(), &client);
         const int nameWidth = client.right * 2 / 5;
-        for (const auto& [index, title, width] : {std::tuple(0, L"Name", nameWidth),
-                                                  std::tuple(1, L"Website URL", static_cast<int>(client.right) - nameWidth -
-                                                                                    GetSystemMetrics(SM_CXVSCROLL))}) {
-            LVCOLUMNW column{};
-            column.mask = LVCF_TEXT | LVCF_WIDTH;
-            column.pszText = const_cast<wchar_t*>(title);
-            column.cx = width;
-            ListView_InsertColumn(rows(), index, &column);
-        }
+        rows().insertColumn(0, L"Name", nameWidth);
+        rows().insertColumn(1, L"Website URL",
+                            static_cast<int>(client.right) - nameWidth - GetSystemMetrics(SM_CXVSCROLL));
         for (HWND edit : {item(IDC_EDIT_NAME), item(IDC_EDIT_SITE)})
-            SetWindowSubclass(edit, &WebListWindow::EditKeys, 1, reinterpret_cast<DWORD_PTR>(this));
+            editKeys_.attach(edit);
         if (list_.load()) showCaption();
         const Settings& s = app_.settings;
         const std::wstring* browsers[] = {&s.WebBrowser1, &s.WebBrowser2, &s.WebBrowser3};
@@ -81,41 +75,40 @@ private:
     // The model's selection and current row as the controls hold them.
     void takeSelection() {
         for (WebRow& row : list_.rows) row.selected = false;
-        for (int i = ListView_GetNextItem(rows(), -1, LVNI_SELECTED); i >= 0 && i < count();
-             i = ListView_GetNextItem(rows(), i, LVNI_SELECTED))
+        for (int i = rows().nextItem(-1, LVNI_SELECTED); i >= 0 && i < count(); i = rows().nextItem(i, LVNI_SELECTED))
             list_.rows[static_cast<std::size_t>(i)].selected = true;
-        const int focused = ListView_GetNextItem(rows(), -1, LVNI_FOCUSED);
+        const int focused = rows().currentRow();
         list_.current = focused < count() ? focused : -1;
         list_.selectedGroups.clear();
-        const auto entries = static_cast<int>(SendMessageW(groups(), LB_GETCOUNT, 0, 0));
+        const int entries = groups().count();
         for (int i = 0; i < entries; ++i)
-            if (SendMessageW(groups(), LB_GETSEL, static_cast<WPARAM>(i), 0) > 0)
+            if (groups().isSelected(i))
                 list_.selectedGroups.push_back(static_cast<std::size_t>(i));
-        const auto caret = static_cast<int>(SendMessageW(groups(), LB_GETCARETINDEX, 0, 0));
+        const int caret = groups().caret();
         list_.currentGroup = list_.selectedGroups.empty() ? -1 : caret;
     }
 
     // The controls as the model holds them.
     void refresh() {
-        ListView_SetItemCountEx(rows(), count(), LVSICF_NOSCROLL);
+        rows().setItemCount(count());
         // One by one: clearing every row at once costs two notifications a row.
-        for (int i = -1; (i = ListView_GetNextItem(rows(), i, LVNI_SELECTED)) >= 0;)
-            ListView_SetItemState(rows(), i, 0, LVIS_SELECTED);
+        for (int i = -1; (i = rows().nextItem(i, LVNI_SELECTED)) >= 0;)
+            rows().setItemState(i, 0, LVIS_SELECTED);
         for (int i = 0; i < count(); ++i)
-            if (list_.rows[static_cast<std::size_t>(i)].selected) ListView_SetItemState(rows(), i, LVIS_SELECTED, LVIS_SELECTED);
+            if (list_.rows[static_cast<std::size_t>(i)].selected) rows().setItemState(i, LVIS_SELECTED, LVIS_SELECTED);
         if (list_.current >= 0 && list_.current < count()) {
-            ListView_SetItemState(rows(), list_.current, LVIS_FOCUSED, LVIS_FOCUSED);
-            ListView_EnsureVisible(rows(), list_.current, FALSE);
+            rows().setItemState(list_.current, LVIS_FOCUSED, LVIS_FOCUSED);
+            rows().ensureVisible(list_.current);
         }
         InvalidateRect(rows(), nullptr, FALSE);
-        SendMessageW(groups(), WM_SETREDRAW, FALSE, 0);
-        SendMessageW(groups(), LB_RESETCONTENT, 0, 0);
-        for (const std::wstring& entry : list_.groups) SendMessageW(groups(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+        groups().setRedraw(false);
+        groups().clear();
+        for (const std::wstring& entry : list_.groups) groups().add(entry.c_str());
         if (list_.currentGroup >= 0) {
-            SendMessageW(groups(), LB_SETSEL, TRUE, list_.currentGroup);
-            SendMessageW(groups(), LB_SETCARETINDEX, static_cast<WPARAM>(list_.currentGroup), FALSE);
+            groups().select(list_.currentGroup);
+            groups().setCaret(list_.currentGroup);
         }
-        SendMessageW(groups(), WM_SETREDRAW, TRUE, 0);
+        groups().setRedraw(true);
         InvalidateRect(groups(), nullptr, TRUE);
         showGroupPanel(list_.groupShown);
     }
@@ -142,7 +135,7 @@ private:
         }
         for (int id : kGroupControls) ShowWindow(item(id), shown ? SW_SHOW : SW_HIDE);
         ShowWindow(rows(), shown ? SW_HIDE : SW_SHOW);
-        SetFocus(shown ? groups() : rows());
+        SetFocus(shown ? groups() : static_cast<HWND>(rows()));
     }
 
     void storeBrowsers() {
@@ -184,7 +177,7 @@ private:
         for (int id : kEditControls) ShowWindow(item(id), shown ? SW_SHOW : SW_HIDE);
         for (int i = 1; i < static_cast<int>(kButtonCommands.size()); ++i)
             ShowWindow(item(IDC_FIRST_WEB_BUTTON + i), shown ? SW_HIDE : SW_SHOW);
-        if (!shown) SetFocus(list_.groupShown ? groups() : rows());
+        if (!shown) SetFocus(list_.groupShown ? groups() : static_cast<HWND>(rows()));
     }
 
     void endEdit(bool accepted) {
@@ -304,28 +297,6 @@ private:
         return false;
     }
 
-    static LRESULT CALLBACK EditKeys(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
-        auto* self = reinterpret_cast<WebListWindow*>(data);
-        switch (message) {
-        case WM_GETDLGCODE:
-            if (wParam == VK_RETURN || wParam == VK_ESCAPE) return DLGC_WANTALLKEYS | DefSubclassProc(edit, message, wParam, lParam);
-            break;
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-            if (self->editKey(wParam)) {
-                self->swallowChar_ = true;
-                return 0;
-            }
-            break;
-        case WM_CHAR:
-        case WM_SYSCHAR:
-            if (std::exchange(self->swallowChar_, false)) return 0;
-            break;
-        case WM_NCDESTROY: RemoveWindowSubclass(edit, &WebListWindow::EditKeys, 1); break;
-        }
-        return DefSubclassProc(edit, message, wParam, lParam);
-    }
-
     // The model's texts and check marks, as the virtual list asks for them.
     void giveItem(LVITEMW& item) const {
         if (item.iItem < 0 || item.iItem >= count()) return;
@@ -340,7 +311,7 @@ private:
 
     void toggleCheck(int row) {
         list_.toggleCheck(row);
-        ListView_RedrawItems(rows(), row, row);
+        rows().redrawRow(row);
     }
 
     INT_PTR onNotify(const NMHDR& header) {
@@ -349,13 +320,12 @@ private:
         case LVN_GETDISPINFOW: giveItem(reinterpret_cast<NMLVDISPINFOW*>(const_cast<NMHDR*>(&header))->item); return TRUE;
         case LVN_KEYDOWN:
             if (reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey == VK_SPACE)
-                toggleCheck(ListView_GetNextItem(rows(), -1, LVNI_FOCUSED));
+                toggleCheck(rows().currentRow());
             return TRUE;
         case NM_CLICK:
         case NM_DBLCLK: {
             LVHITTESTINFO hit{};
-            hit.pt = reinterpret_cast<const NMITEMACTIVATE&>(header).ptAction;
-            ListView_SubItemHitTest(rows(), &hit);
+            rows().hitTest(reinterpret_cast<const NMITEMACTIVATE&>(header).ptAction, hit);
             if (hit.iItem < 0) return TRUE;
             const bool onCheck = hit.flags & LVHT_ONITEMSTATEICON;
             if (header.code == NM_CLICK && onCheck) toggleCheck(hit.iItem);
@@ -387,7 +357,7 @@ private:
     MainCommands& commands_;
     WebList list_;
     MenuBar menu_{WebListMenuRows()};
-    bool swallowChar_ = false;
+    FieldKeys editKeys_{{VK_RETURN, VK_ESCAPE}, true, [this](HWND, WPARAM key) { return editKey(key); }};
 };
 
 }  // namespace
