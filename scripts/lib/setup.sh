@@ -75,6 +75,11 @@ ensure_wine_prefix() {
     say "making the Wine prefix (once)"
     mkdir -p "$WINEPREFIX"
     wineboot -i >/dev/null 2>&1
+    wineserver -w
+  fi
+  # Checked every time: once seen missing after a first start, and without it
+  # every window close stalls about two seconds.
+  if ! grep -q '^"Managed"="N"' "$WINEPREFIX/user.reg"; then
     wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
     wineserver -w
   fi
