@@ -6,9 +6,12 @@
 
 namespace orvane::bench {
 
-enum class Goal { AtMost, Below };
+enum class Goal {
+    AtMost,
+    Below
+};
 
-inline void TableRow(const char* what, double measured, double goal = 0, Goal kind = Goal::AtMost) {
+inline void TableRow(const char *what, double measured, double goal = 0, Goal kind = Goal::AtMost) {
     if (goal <= 0) {
         std::printf("| %s | %.2f | print it | |\n", what, measured);
         return;
@@ -18,4 +21,4 @@ inline void TableRow(const char* what, double measured, double goal = 0, Goal ki
                 met ? "met" : "NOT met");
 }
 
-}  // namespace orvane::bench
+} // namespace orvane::bench

@@ -16,21 +16,22 @@ inline constexpr wchar_t kSettingsFileName[] = L"\\Orvane.ini";
 
 class App {
 public:
-    explicit App(System& system) : sys(system) {}
+    explicit App(System &system) : sys(system) {
+    }
 
-    System& sys;
+    System &sys;
     Settings settings;
 
     // Filled by start-up.
-    std::wstring ProgramFolder;  // without trailing backslash
+    std::wstring ProgramFolder; // without trailing backslash
     std::wstring SettingsFilePath;
-    bool SettingsFileKept = false;  // too large to be read: not written over at exit either
+    bool SettingsFileKept = false; // too large to be read: not written over at exit either
     std::wstring ListFileFilter;
     std::int16_t OsVersionCode = 0;
     std::int16_t OsMinorVersion = 0;
     std::wstring OsVersionName;
-    std::wstring ProgramFilesFolder;  // with trailing backslash
-    std::wstring DocumentsFolder;     // with trailing backslash
+    std::wstring ProgramFilesFolder; // with trailing backslash
+    std::wstring DocumentsFolder;    // with trailing backslash
     WindowRef MainWindowRef = 0;
 
     // Launch state.
@@ -43,4 +44,4 @@ public:
     WindowList windowList;
 };
 
-}  // namespace orvane
+} // namespace orvane

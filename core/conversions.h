@@ -43,4 +43,4 @@ std::vector<std::wstring_view> SplitAtCarriageReturns(std::wstring_view text, st
 // Whether the text contains the part, ignoring the case of ASCII letters.
 bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view part);
 
-}  // namespace orvane
+} // namespace orvane

@@ -17,27 +17,32 @@ constexpr int kFirstScannedDrive = 'C';
 constexpr int kLastScannedDrive = 'Z' + 6;
 
 // The code of a start is kept only when it fits the 16-bit result.
-void KeepLaunchResult(App& app, long long code) {
-    if (auto value = RoundToInt16(static_cast<double>(code))) app.LastLaunchResult = *value;
+void KeepLaunchResult(App &app, long long code) {
+    if (auto value = RoundToInt16(static_cast<double>(code)))
+        app.LastLaunchResult = *value;
 }
 
-void StartCommandLine(App& app, const std::wstring& commandLine) {
-    if (auto task = app.sys.startCommandLine(commandLine, kShowNormal)) KeepLaunchResult(app, *task);
+void StartCommandLine(App &app, const std::wstring &commandLine) {
+    if (auto task = app.sys.startCommandLine(commandLine, kShowNormal))
+        KeepLaunchResult(app, *task);
 }
 
-std::optional<std::wstring> ScanDriveFolders(App& app, const std::wstring& path) {
+std::optional<std::wstring> ScanDriveFolders(App &app, const std::wstring &path) {
     for (int code = kFirstScannedDrive; code <= kLastScannedDrive; ++code) {
         std::wstring candidate = AsDriveFolderPath(static_cast<wchar_t>(code), path);
-        if (app.sys.fileExists(candidate)) return candidate;
+        if (app.sys.fileExists(candidate))
+            return candidate;
     }
     return std::nullopt;
 }
 
-std::optional<std::wstring> LocateSuiteProgram(App& app, const std::wstring& program) {
-    if (app.sys.fileExists(program)) return program;
+std::optional<std::wstring> LocateSuiteProgram(App &app, const std::wstring &program) {
+    if (app.sys.fileExists(program))
+        return program;
     if (std::wstring inSuite = kSuiteFallbackFolder + BackslashFileName(program); app.sys.fileExists(inSuite))
         return inSuite;
-    if (auto found = ScanDriveFolders(app, program)) return found;
+    if (auto found = ScanDriveFolders(app, program))
+        return found;
     if (!app.ProgramFolder.empty()) {
         if (std::wstring ownDrive = AsDriveFolderPath(app.ProgramFolder[0], program); app.sys.fileExists(ownDrive))
             return ownDrive;
@@ -48,18 +53,20 @@ std::optional<std::wstring> LocateSuiteProgram(App& app, const std::wstring& pro
 }
 
 // The tool's window title: its file name without a final ".exe" (exact case).
-std::wstring ProgramBaseName(const std::wstring& program) {
+std::wstring ProgramBaseName(const std::wstring &program) {
     std::wstring name = BackslashFileName(program).substr(1);
-    if (name.size() >= 4 && name.compare(name.size() - 4, 4, L".exe") == 0) name.resize(name.size() - 4);
+    if (name.size() >= 4 && name.compare(name.size() - 4, 4, L".exe") == 0)
+        name.resize(name.size() - 4);
     return name;
 }
 
-}  // namespace
+} // namespace
 
-bool ExecuteProcess(App& app, const std::wstring& file, WindowRef owner, int style, const std::wstring& parameters,
+bool ExecuteProcess(App &app, const std::wstring &file, WindowRef owner, int style, const std::wstring &parameters,
                     bool elevate) {
     // A request that names no file has nothing to start; the shell would open a folder instead.
-    if (TrimBlanks(file).empty()) return false;
+    if (TrimBlanks(file).empty())
+        return false;
     ShellExecuteRequest request;
     request.owner = owner;
     request.verb = elevate ? L"runas" : L"Open";
@@ -70,8 +77,9 @@ bool ExecuteProcess(App& app, const std::wstring& file, WindowRef owner, int sty
     return app.sys.shellExecute(request);
 }
 
-void LaunchSuiteProgram(App& app, std::wstring& program, std::wstring& document) {
-    if (Contains(document, L"\"") && document.size() >= 2) document = document.substr(1, document.size() - 2);
+void LaunchSuiteProgram(App &app, std::wstring &program, std::wstring &document) {
+    if (Contains(document, L"\"") && document.size() >= 2)
+        document = document.substr(1, document.size() - 2);
 
     const auto located = LocateSuiteProgram(app, program);
     if (!located) {
@@ -96,19 +104,23 @@ void LaunchSuiteProgram(App& app, std::wstring& program, std::wstring& document)
         return;
     }
     if (!app.sys.fileExists(document) && Contains(document, L":") && !Contains(document, L"\\Drive_")) {
-        if (auto found = ScanDriveFolders(app, document)) document = *found;
+        if (auto found = ScanDriveFolders(app, document))
+            document = *found;
     }
-    if (Contains(document, L" ")) document = L"\"" + document + L"\"";
+    if (Contains(document, L" "))
+        document = L"\"" + document + L"\"";
     StartCommandLine(app, TrimBlanks(program) + L" " + document);
 }
 
-std::wstring CommandWithArgument(const std::wstring& program, const std::wstring& argument) {
-    if (argument.empty()) return program;
-    if (!Contains(argument, L" ")) return program + L" " + argument;
+std::wstring CommandWithArgument(const std::wstring &program, const std::wstring &argument) {
+    if (argument.empty())
+        return program;
+    if (!Contains(argument, L" "))
+        return program + L" " + argument;
     return program + L" \"" + argument + L"\"";
 }
 
-void LoadCustomBrowser(App& app, const std::wstring& target) {
+void LoadCustomBrowser(App &app, const std::wstring &target) {
     app.LaunchPath = app.settings.CustomBrowser;
     if (!app.sys.fileExists(app.LaunchPath)) {
         ReportFileNotFound(app, app.LaunchPath, L"Custom Browser");
@@ -118,14 +130,14 @@ void LoadCustomBrowser(App& app, const std::wstring& target) {
     StartCommandLine(app, CommandWithArgument(app.LaunchPath, target));
 }
 
-void LaunchWithArgument(App& app, const std::wstring& program, const std::wstring& argument) {
+void LaunchWithArgument(App &app, const std::wstring &program, const std::wstring &argument) {
     app.sys.processPendingEvents();
     StartCommandLine(app, CommandWithArgument(program, argument));
 }
 
-void ExploreFolder(App& app, WindowRef owner) {
+void ExploreFolder(App &app, WindowRef owner) {
     const std::wstring folder = app.sys.currentFolder();
     KeepLaunchResult(app, app.sys.shellVerb(owner, L"explore", folder, folder, kShowNormal));
 }
 
-}  // namespace orvane
+} // namespace orvane

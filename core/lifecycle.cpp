@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kHandOverRounds = 5;
 
-void PlaceFromSettings(App& app, MainWindowHost& host) {
-    Settings& s = app.settings;
+void PlaceFromSettings(App &app, MainWindowHost &host) {
+    Settings &s = app.settings;
     host.setTop(s.MainTop);
     host.setLeft(s.MainLeft);
     host.setWidth(s.MainWidth);
@@ -23,9 +23,9 @@ void PlaceFromSettings(App& app, MainWindowHost& host) {
     s.MainHeight = taken.height;
 }
 
-}  // namespace
+} // namespace
 
-void HandOverToEarlierInstance(App& app, MainWindowHost& host, WindowRef earlierWindow) {
+void HandOverToEarlierInstance(App &app, MainWindowHost &host, WindowRef earlierWindow) {
     // Each round starts from the window the previous one reached; the earlier
     // copy keeps its main window just above its application window.
     WindowRef window = earlierWindow;
@@ -39,10 +39,10 @@ void HandOverToEarlierInstance(App& app, MainWindowHost& host, WindowRef earlier
     host.endProcessNow();
 }
 
-LoadOutcome LoadMainWindow(App& app, MainWindowHost& host, MainWindowState& state) {
+LoadOutcome LoadMainWindow(App &app, MainWindowHost &host, MainWindowState &state) {
     if (host.earlierInstanceRunning()) {
         const std::wstring title = host.programTitle();
-        host.setProgramTitle(kRedundantInstanceTitle);  // so the search cannot find this copy
+        host.setProgramTitle(kRedundantInstanceTitle); // so the search cannot find this copy
         if (const WindowRef earlier = host.findApplicationWindow(title); earlier != 0) {
             HandOverToEarlierInstance(app, host, earlier);
             return LoadOutcome::HandedOver;
@@ -61,7 +61,8 @@ LoadOutcome LoadMainWindow(App& app, MainWindowHost& host, MainWindowState& stat
 
     state.workArea = host.workArea();
     app.MainWindowRef = host.handle();
-    if (state.workArea.width < app.settings.ExpandedWidth) app.settings.ExpandedWidth = state.workArea.width;
+    if (state.workArea.width < app.settings.ExpandedWidth)
+        app.settings.ExpandedWidth = state.workArea.width;
 
     FindSystemFolders(app);
 
@@ -76,7 +77,7 @@ LoadOutcome LoadMainWindow(App& app, MainWindowHost& host, MainWindowState& stat
     return LoadOutcome::Running;
 }
 
-void UnloadMainWindow(App& app, MainWindowHost& host) {
+void UnloadMainWindow(App &app, MainWindowHost &host) {
     const TwipsRect now = host.geometry();
     app.settings.MainTop = now.top;
     app.settings.MainLeft = now.left;
@@ -86,4 +87,4 @@ void UnloadMainWindow(App& app, MainWindowHost& host) {
     SaveSettings(app);
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -19,7 +19,7 @@ struct TwipsRect {
     std::int32_t width = 0;
     std::int32_t height = 0;
 
-    bool operator==(const TwipsRect&) const = default;
+    bool operator==(const TwipsRect &) const = default;
 };
 
 inline constexpr wchar_t kRedundantInstanceTitle[] = L"Redundant instance";
@@ -33,8 +33,8 @@ public:
     // window, the window a second copy looks for.
     virtual bool earlierInstanceRunning() = 0;
     virtual std::wstring programTitle() = 0;
-    virtual void setProgramTitle(const std::wstring& title) = 0;
-    virtual WindowRef findApplicationWindow(const std::wstring& title) = 0;
+    virtual void setProgramTitle(const std::wstring &title) = 0;
+    virtual WindowRef findApplicationWindow(const std::wstring &title) = 0;
     virtual void endProcessNow() = 0;
 
     virtual void initCommonControls() = 0;
@@ -52,7 +52,7 @@ public:
 
     // Where the icon strip, the skin and the menu bar plug in.
     virtual void layIconStrip() = 0;
-    virtual void applySkin(const std::wstring& skinFile) = 0;
+    virtual void applySkin(const std::wstring &skinFile) = 0;
     virtual void buildMenuBar() = 0;
     // The last step: the strip's size when ExpandedLayout is 1, otherwise the
     // menu bar's alone, whatever MainWidth and MainHeight said.
@@ -66,16 +66,19 @@ struct MainWindowState {
     TwipsRect workArea;
 };
 
-enum class LoadOutcome { Running, HandedOver };
+enum class LoadOutcome {
+    Running,
+    HandedOver
+};
 
 // The load sequence. HandedOver: an earlier copy was brought forward and this
 // one has been told to end; nothing else happened.
-LoadOutcome LoadMainWindow(App& app, MainWindowHost& host, MainWindowState& state);
+LoadOutcome LoadMainWindow(App &app, MainWindowHost &host, MainWindowState &state);
 
 // Brings the earlier copy's window forward, then ends this process.
-void HandOverToEarlierInstance(App& app, MainWindowHost& host, WindowRef earlierWindow);
+void HandOverToEarlierInstance(App &app, MainWindowHost &host, WindowRef earlierWindow);
 
 // The unload sequence: records the window's geometry and colour and writes the settings.
-void UnloadMainWindow(App& app, MainWindowHost& host);
+void UnloadMainWindow(App &app, MainWindowHost &host);
 
-}  // namespace orvane
+} // namespace orvane

@@ -8,17 +8,18 @@ namespace orvane {
 
 static_assert(InEnumOrder(kFileChoices, &FileChoice::which));
 
-bool ChooseIntoSetting(App& app, Choice which) {
-    const FileChoice& choice = kFileChoices[static_cast<std::size_t>(which)];
-    std::wstring& setting = app.settings.*choice.setting;
+bool ChooseIntoSetting(App &app, Choice which) {
+    const FileChoice &choice = kFileChoices[static_cast<std::size_t>(which)];
+    std::wstring &setting = app.settings.*choice.setting;
     const auto chosen = app.sys.chooseFile({.title = choice.title, .filter = choice.filter, .preset = setting});
-    if (!chosen || chosen->empty()) return false;
+    if (!chosen || chosen->empty())
+        return false;
     setting = *chosen;
     return true;
 }
 
-bool SameForAll(App& app) {
-    Settings& s = app.settings;
+bool SameForAll(App &app) {
+    Settings &s = app.settings;
     if (s.WordPath.empty() || !app.sys.fileExists(s.WordPath)) {
         app.sys.showMessage(L"Location for MS Word invalid or empty.", kProgramTitle, MessageIcon::Exclamation,
                             MessageButtons::Ok);
@@ -32,8 +33,8 @@ bool SameForAll(App& app) {
     return true;
 }
 
-bool StartYourProgram(App& app) {
-    const std::wstring& program = app.settings.YourProgram;
+bool StartYourProgram(App &app) {
+    const std::wstring &program = app.settings.YourProgram;
     if (program.empty() || !app.sys.fileExists(program)) {
         app.sys.showMessage(L"Cannot find this program:\r\n\r\n" + program, kProgramTitle, MessageIcon::Exclamation,
                             MessageButtons::Ok);
@@ -43,4 +44,4 @@ bool StartYourProgram(App& app) {
     return true;
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -12,14 +12,23 @@ namespace orvane {
 class App;
 
 enum class Choice {
-    Word, Excel, PowerPoint, Publisher, Access, Wallpaper, WebList, YourProgram,
-    Deadlines, Addresses, CustomBrowser
+    Word,
+    Excel,
+    PowerPoint,
+    Publisher,
+    Access,
+    Wallpaper,
+    WebList,
+    YourProgram,
+    Deadlines,
+    Addresses,
+    CustomBrowser
 };
 
 struct FileChoice {
     Choice which;
-    const wchar_t* title;
-    const wchar_t* filter;
+    const wchar_t *title;
+    const wchar_t *filter;
     std::wstring Settings::*setting;
 };
 
@@ -43,14 +52,14 @@ inline constexpr std::array<FileChoice, 11> kFileChoices = {{
 
 // Shows the file dialog, preset to the setting's current value; a chosen file
 // becomes the setting. False when cancelled: the setting keeps its value.
-bool ChooseIntoSetting(App& app, Choice which);
+bool ChooseIntoSetting(App &app, Choice which);
 
 // One folder for all five Office programs, taken from WordPath when it names
 // an existing file. Otherwise says so, changes nothing and returns false.
-bool SameForAll(App& app);
+bool SameForAll(App &app);
 
 // Starts YourProgram when it names an existing file and returns true (the
 // dialog closes); otherwise says so and returns false (the dialog stays).
-bool StartYourProgram(App& app);
+bool StartYourProgram(App &app);
 
-}  // namespace orvane
+} // namespace orvane

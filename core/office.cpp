@@ -6,27 +6,30 @@
 
 namespace orvane {
 
-const OfficeProgram& OfficeProgramOf(Office which) {
-    for (const OfficeProgram& program : kOfficePrograms)
-        if (program.which == which) return program;
+const OfficeProgram &OfficeProgramOf(Office which) {
+    for (const OfficeProgram &program : kOfficePrograms)
+        if (program.which == which)
+            return program;
     return kOfficePrograms.front();
 }
 
-std::wstring LocateOfficeProgram(App& app, const std::wstring& fileName) {
-    for (const OfficeProgram& program : kOfficePrograms) {
-        const std::wstring& location = app.settings.*program.userLocation;
-        if (fileName == program.fileName && !location.empty() && app.sys.fileExists(location)) return location;
+std::wstring LocateOfficeProgram(App &app, const std::wstring &fileName) {
+    for (const OfficeProgram &program : kOfficePrograms) {
+        const std::wstring &location = app.settings.*program.userLocation;
+        if (fileName == program.fileName && !location.empty() && app.sys.fileExists(location))
+            return location;
     }
     // ProgramFilesFolder ends in a backslash, so the path holds two in a row;
     // the system reads them as one.
     const std::wstring base = app.ProgramFilesFolder + L"\\Microsoft Office\\";
-    for (const wchar_t* version : {L"OFFICE16\\", L"OFFICE12\\", L"OFFICE11\\"}) {
-        if (const std::wstring path = base + version + fileName; app.sys.fileExists(path)) return path;
+    for (const wchar_t *version : {L"OFFICE16\\", L"OFFICE12\\", L"OFFICE11\\"}) {
+        if (const std::wstring path = base + version + fileName; app.sys.fileExists(path))
+            return path;
     }
     return base + L"Office\\" + fileName;
 }
 
-void LoadOfficeProgram(App& app, Office which, const std::wstring& document) {
+void LoadOfficeProgram(App &app, Office which, const std::wstring &document) {
     // The main window and the other windows keep the located path in a value
     // of their own; both are kept here, as one routine serves them all.
     app.LaunchPath = app.OfficeProgramPath = LocateOfficeProgram(app, OfficeProgramOf(which).fileName);
@@ -37,4 +40,4 @@ void LoadOfficeProgram(App& app, Office which, const std::wstring& document) {
     LaunchWithArgument(app, app.OfficeProgramPath, document);
 }
 
-}  // namespace orvane
+} // namespace orvane

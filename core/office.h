@@ -12,11 +12,17 @@ namespace orvane {
 
 class App;
 
-enum class Office { Word, PowerPoint, Excel, Access, Publisher };
+enum class Office {
+    Word,
+    PowerPoint,
+    Excel,
+    Access,
+    Publisher
+};
 
 struct OfficeProgram {
     Office which;
-    const wchar_t* fileName;  // compared in exact case
+    const wchar_t *fileName; // compared in exact case
     std::wstring Settings::*userLocation;
 };
 
@@ -29,14 +35,14 @@ inline constexpr std::array<OfficeProgram, 5> kOfficePrograms = {{
     {Office::PowerPoint, L"POWERPNT.EXE", &Settings::PowerPointPath},
 }};
 
-const OfficeProgram& OfficeProgramOf(Office which);
+const OfficeProgram &OfficeProgramOf(Office which);
 
 // A full path for one of the five program file names; it need not exist.
-std::wstring LocateOfficeProgram(App& app, const std::wstring& fileName);
+std::wstring LocateOfficeProgram(App &app, const std::wstring &fileName);
 
 // Starts the program, with the document when one is given (quoted when it
 // holds a blank; the program path never is). A program that cannot be found
 // is reported and nothing starts.
-void LoadOfficeProgram(App& app, Office which, const std::wstring& document);
+void LoadOfficeProgram(App &app, Office which, const std::wstring &document);
 
-}  // namespace orvane
+} // namespace orvane

@@ -6,58 +6,70 @@
 
 namespace orvane {
 
-std::wstring Letter(int code) { return std::wstring(1, static_cast<wchar_t>(code)); }
+std::wstring Letter(int code) {
+    return std::wstring(1, static_cast<wchar_t>(code));
+}
 
-std::wstring AsDriveFolderPath(wchar_t drive, const std::wstring& path) {
+std::wstring AsDriveFolderPath(wchar_t drive, const std::wstring &path) {
     return std::wstring(1, drive) + L":\\" + kDriveFolderPrefix + LeftOf(path, 1) + MidFrom(path, 3);
 }
 
-std::wstring ResolveDocumentPath(App& app, const std::wstring& path) {
-    if (TrimBlanks(path).empty()) return {};
-    if (app.sys.fileExists(path)) return path;
+std::wstring ResolveDocumentPath(App &app, const std::wstring &path) {
+    if (TrimBlanks(path).empty())
+        return {};
+    if (app.sys.fileExists(path))
+        return path;
     const std::wstring candidate = Contains(path, kDriveFolderPrefix)
                                        ? MidFrom(path, 10).substr(0, 1) + L":" + MidFrom(path, 11)
                                        : TryDriveLetters(app, L":\\Drive_" + LeftOf(path, 1) + MidFrom(path, 3));
     return app.sys.fileExists(candidate) ? candidate : path;
 }
 
-std::wstring TryDriveLetters(App& app, const std::wstring& rest) {
+std::wstring TryDriveLetters(App &app, const std::wstring &rest) {
     std::wstring candidate;
     for (int code = 'C'; code <= 'Z'; ++code) {
         candidate = Letter(code) + rest;
-        if (app.sys.fileExists(candidate)) break;
+        if (app.sys.fileExists(candidate))
+            break;
     }
     return candidate;
 }
 
-std::wstring RelocateDrivePath(App& app, const std::wstring& path) {
-    if (path.empty() || app.sys.fileExists(path)) return path;
-    if (!Contains(path, L":\\Drive_")) return AsDriveFolderPath(L'C', path);
+std::wstring RelocateDrivePath(App &app, const std::wstring &path) {
+    if (path.empty() || app.sys.fileExists(path))
+        return path;
+    if (!Contains(path, L":\\Drive_"))
+        return AsDriveFolderPath(L'C', path);
     // Back from a "Drive_" folder to the real drive. Other drives' "Drive_"
     // folders are searched by the callers, so the result is this path either way.
     return MidFrom(path, 10).substr(0, 1) + L":" + MidFrom(path, 11);
 }
 
-std::wstring& ResolveSuitePath(App& app, std::wstring& path) {
+std::wstring &ResolveSuitePath(App &app, std::wstring &path) {
     if (!path.empty() && !app.sys.fileExists(path)) {
         const std::wstring besideProgram = app.ProgramFolder + BackslashFileName(path);
-        if (app.sys.fileExists(besideProgram)) return path = besideProgram;
+        if (app.sys.fileExists(besideProgram))
+            return path = besideProgram;
     }
     path = RelocateDrivePath(app, path);
     if (!path.empty() && !app.sys.fileExists(path)) {
         const std::wstring inSuiteFolder = kSuiteFallbackFolder + BackslashFileName(path);
-        if (app.sys.fileExists(inSuiteFolder)) path = inSuiteFolder;
+        if (app.sys.fileExists(inSuiteFolder))
+            path = inSuiteFolder;
     }
-    if (!path.empty() && !app.sys.fileExists(path)) path = app.ProgramFolder + BackslashFileName(path);
+    if (!path.empty() && !app.sys.fileExists(path))
+        path = app.ProgramFolder + BackslashFileName(path);
     return path;
 }
 
-std::wstring& SwapProgramFilesFolder(std::wstring& path) {
+std::wstring &SwapProgramFilesFolder(std::wstring &path) {
     static const std::wstring native = L"C:\\Program Files\\";
     static const std::wstring x86 = L"C:\\Program Files (x86)\\";
-    if (Contains(path, native)) path = x86 + MidFrom(path, native.size() + 1);
-    else if (Contains(path, x86)) path = native + MidFrom(path, x86.size() + 1);
+    if (Contains(path, native))
+        path = x86 + MidFrom(path, native.size() + 1);
+    else if (Contains(path, x86))
+        path = native + MidFrom(path, x86.size() + 1);
     return path;
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -18,12 +18,12 @@ inline constexpr wchar_t kSuiteFallbackFolder[] = L"C:\\TellmarkSet";
 std::wstring Letter(int code);
 
 // "X:\Drive_G\rest" for the path "G:\rest".
-std::wstring AsDriveFolderPath(wchar_t drive, const std::wstring& path);
+std::wstring AsDriveFolderPath(wchar_t drive, const std::wstring &path);
 
-std::wstring ResolveDocumentPath(App& app, const std::wstring& path);
-std::wstring TryDriveLetters(App& app, const std::wstring& rest);
-std::wstring RelocateDrivePath(App& app, const std::wstring& path);
-std::wstring& ResolveSuitePath(App& app, std::wstring& path);
-std::wstring& SwapProgramFilesFolder(std::wstring& path);
+std::wstring ResolveDocumentPath(App &app, const std::wstring &path);
+std::wstring TryDriveLetters(App &app, const std::wstring &rest);
+std::wstring RelocateDrivePath(App &app, const std::wstring &path);
+std::wstring &ResolveSuitePath(App &app, std::wstring &path);
+std::wstring &SwapProgramFilesFolder(std::wstring &path);
 
-}  // namespace orvane
+} // namespace orvane

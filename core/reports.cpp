@@ -6,14 +6,14 @@
 
 namespace orvane {
 
-void ReportFileNotFound(App& app, const std::wstring& path, const std::optional<std::wstring>& title) {
+void ReportFileNotFound(App &app, const std::wstring &path, const std::optional<std::wstring> &title) {
     const std::wstring shown = path.empty() ? L"( Filename empty! )" : path;
     app.sys.showMessage(L"Cannot locate the following program/file:\r\n\r\n" + shown + L"\r\n\r\n",
                         title.value_or(kProgramTitle), MessageIcon::Critical, MessageButtons::Ok);
     app.sys.restoreCursor();
 }
 
-void ReportFileError(App& app, const std::wstring& path, const std::optional<std::wstring>& operation) {
+void ReportFileError(App &app, const std::wstring &path, const std::optional<std::wstring> &operation) {
     const std::wstring shown = TrimBlanks(path).empty() ? L"( no name specified or name is empty ! )" : path;
     const std::wstring verb = operation ? L"delete" : L"save";
     const std::wstring description = app.sys.lastErrorDescription();
@@ -25,14 +25,14 @@ void ReportFileError(App& app, const std::wstring& path, const std::optional<std
                         kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
 }
 
-std::wstring FileTooLargeText(const std::wstring& path, std::uint64_t size) {
+std::wstring FileTooLargeText(const std::wstring &path, std::uint64_t size) {
     return L"Cannot load this file :\r\n\r\n" + path + L"\r\n\r\nIt holds " + std::to_wstring(size) +
            L" bytes, more than the " + std::to_wstring(kMostFileBytes) +
            L" the program reads. Nothing of it was loaded, and the file is left as it is.\r\n";
 }
 
-void ReportFileTooLarge(App& app, const std::wstring& path, std::uint64_t size) {
+void ReportFileTooLarge(App &app, const std::wstring &path, std::uint64_t size) {
     app.sys.showMessage(FileTooLargeText(path, size), kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -12,85 +12,63 @@ namespace {
 using S = Settings;
 constexpr bool kTrim = true;
 
-template <typename Int>
-void AssignNumber(Int& target, const std::wstring& text) {
+template <typename Int> void AssignNumber(Int &target, const std::wstring &text) {
     const auto number = NumericPrefix(text);
-    if (!number) return;
+    if (!number)
+        return;
     std::optional<Int> rounded;
-    if constexpr (sizeof(Int) == 2) rounded = RoundToInt16(*number);
-    else rounded = RoundToInt32(*number);
-    if (rounded) target = *rounded;
+    if constexpr (sizeof(Int) == 2)
+        rounded = RoundToInt16(*number);
+    else
+        rounded = RoundToInt32(*number);
+    if (rounded)
+        target = *rounded;
 }
 
-}  // namespace
+} // namespace
 
 // File order. Lines 1, 2, 10, 11, 12 and 13 drop leading blanks before the
 // number is read; the other number lines rely on the conversion skipping them.
 const std::array<SettingsLine, kSettingsLineCount> kSettingsLines = {{
-    {&S::MainTop, kTrim},
-    {&S::MainLeft, kTrim},
-    {&S::DeadlinesFile},
-    {&S::WebmailUrl},
-    {&S::AddressesFile},
-    {&S::ListFontName},
-    {&S::ListFontSize},
-    {&S::ListFontBold},
-    {&S::ReservedLine9},
-    {&S::MainWidth, kTrim},
-    {&S::MainHeight, kTrim},
-    {&S::MainBackColor, kTrim},
-    {&S::IconSize, kTrim},
-    {&S::AccessPath},
-    {&S::PublisherPath},
-    {&S::ExcelPath},
-    {&S::PowerPointPath},
-    {&S::WordPath},
-    {&S::SkinFile},
-    {&S::SkinFolder},
-    {&S::CustomBrowser},
-    {&S::CustomTop},
-    {&S::CustomLeft},
-    {&S::CustomHeight},
-    {&S::CustomWidth},
-    {&S::CustomGrid1Row},
-    {&S::CustomGrid2Row},
-    {&S::CustomListFile},
-    {&S::YourProgram},
-    {&S::WallpaperFile},
-    {&S::WallpaperStretch},
-    {&S::ReturnPassword},
-    {&S::WebListFile},
-    {&S::WebBrowser1},
-    {&S::WebBrowser2},
-    {&S::WebBrowser3},
-    {&S::WebBrowserChoice},
-    {&S::ExpandedLayout},
-    {&S::ExpandedWidth},
+    {&S::MainTop, kTrim},   {&S::MainLeft, kTrim},  {&S::DeadlinesFile},     {&S::WebmailUrl},
+    {&S::AddressesFile},    {&S::ListFontName},     {&S::ListFontSize},      {&S::ListFontBold},
+    {&S::ReservedLine9},    {&S::MainWidth, kTrim}, {&S::MainHeight, kTrim}, {&S::MainBackColor, kTrim},
+    {&S::IconSize, kTrim},  {&S::AccessPath},       {&S::PublisherPath},     {&S::ExcelPath},
+    {&S::PowerPointPath},   {&S::WordPath},         {&S::SkinFile},          {&S::SkinFolder},
+    {&S::CustomBrowser},    {&S::CustomTop},        {&S::CustomLeft},        {&S::CustomHeight},
+    {&S::CustomWidth},      {&S::CustomGrid1Row},   {&S::CustomGrid2Row},    {&S::CustomListFile},
+    {&S::YourProgram},      {&S::WallpaperFile},    {&S::WallpaperStretch},  {&S::ReturnPassword},
+    {&S::WebListFile},      {&S::WebBrowser1},      {&S::WebBrowser2},       {&S::WebBrowser3},
+    {&S::WebBrowserChoice}, {&S::ExpandedLayout},   {&S::ExpandedWidth},
 }};
 
-void ApplySettingsLines(Settings& settings, const std::wstring& text) {
+void ApplySettingsLines(Settings &settings, const std::wstring &text) {
     const auto lines = SplitLines(text, kSettingsLineCount);
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const SettingsLine& entry = kSettingsLines[i];
+        const SettingsLine &entry = kSettingsLines[i];
         const std::wstring line = entry.trimLeading ? TrimLeadingBlanks(lines[i]) : std::wstring(lines[i]);
         std::visit(
             [&](auto member) {
-                auto& target = settings.*member;
-                if constexpr (std::is_same_v<std::decay_t<decltype(target)>, std::wstring>) target = line;
-                else AssignNumber(target, line);
+                auto &target = settings.*member;
+                if constexpr (std::is_same_v<std::decay_t<decltype(target)>, std::wstring>)
+                    target = line;
+                else
+                    AssignNumber(target, line);
             },
             entry.value);
     }
 }
 
-std::wstring FormatSettings(const Settings& settings) {
+std::wstring FormatSettings(const Settings &settings) {
     std::wstring text;
-    for (const SettingsLine& entry : kSettingsLines) {
+    for (const SettingsLine &entry : kSettingsLines) {
         std::visit(
             [&](auto member) {
-                const auto& value = settings.*member;
-                if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::wstring>) text += value;
-                else text += NumberText(value);
+                const auto &value = settings.*member;
+                if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::wstring>)
+                    text += value;
+                else
+                    text += NumberText(value);
             },
             entry.value);
         text += L"\r\n";
@@ -98,7 +76,7 @@ std::wstring FormatSettings(const Settings& settings) {
     return text;
 }
 
-void LoadSettings(App& app) {
+void LoadSettings(App &app) {
     if (app.SettingsFilePath.empty() || !app.sys.fileExists(app.SettingsFilePath)) {
         ReportFileNotFound(app, app.SettingsFilePath);
         return;
@@ -108,11 +86,13 @@ void LoadSettings(App& app) {
     // read whole, which is then kept as it is rather than replaced at exit.
     const WholeFile file = ReadWholeFile(app.sys, app.SettingsFilePath);
     app.SettingsFileKept = file.tooLarge != 0;
-    if (file.bytes) ApplySettingsLines(app.settings, app.sys.fromAnsi(*file.bytes));
+    if (file.bytes)
+        ApplySettingsLines(app.settings, app.sys.fromAnsi(*file.bytes));
 }
 
-void SaveSettings(App& app) {
-    if (app.SettingsFileKept) return;
+void SaveSettings(App &app) {
+    if (app.SettingsFileKept)
+        return;
     DeleteFileIfPresent(app, app.SettingsFilePath);
     // The old runtime flagged only error number -1 here; every other failure
     // to create the file goes unreported, and the program still ends.
@@ -121,4 +101,4 @@ void SaveSettings(App& app) {
         ReportFileError(app, app.SettingsFilePath);
 }
 
-}  // namespace orvane
+} // namespace orvane

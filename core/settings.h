@@ -52,7 +52,7 @@ struct Settings {
     std::int16_t ExpandedLayout = 0;
     std::int32_t ExpandedWidth = 0;
 
-    bool operator==(const Settings&) const = default;
+    bool operator==(const Settings &) const = default;
 };
 
 // One line of the file: which value it holds and whether leading blanks are
@@ -68,15 +68,15 @@ extern const std::array<SettingsLine, kSettingsLineCount> kSettingsLines;
 // Takes the lines of a settings file in file order. Lines past the 39th are
 // ignored; missing lines leave their values as they are; a number that does
 // not fit its type leaves its value as it is.
-void ApplySettingsLines(Settings& settings, const std::wstring& text);
+void ApplySettingsLines(Settings &settings, const std::wstring &text);
 
 // The whole file: 39 lines, each ending in CR LF.
-std::wstring FormatSettings(const Settings& settings);
+std::wstring FormatSettings(const Settings &settings);
 
 // Reads SettingsFilePath into app.settings, reporting a missing file. A file
 // too large to read whole leaves the initial values, quietly.
-void LoadSettings(App& app);
+void LoadSettings(App &app);
 // Writes app.settings to SettingsFilePath as a fresh file, unless the file was too large to read.
-void SaveSettings(App& app);
+void SaveSettings(App &app);
 
-}  // namespace orvane
+} // namespace orvane

@@ -8,10 +8,11 @@ namespace orvane {
 
 // True when row i of the table carries the enumerator numbered i.
 template <typename Row, std::size_t N, typename Enum>
-constexpr bool InEnumOrder(const std::array<Row, N>& table, Enum Row::*field) {
+constexpr bool InEnumOrder(const std::array<Row, N> &table, Enum Row::*field) {
     for (std::size_t i = 0; i < N; ++i)
-        if (static_cast<std::size_t>(table[i].*field) != i) return false;
+        if (static_cast<std::size_t>(table[i].*field) != i)
+            return false;
     return true;
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -22,11 +22,11 @@ using WindowList = std::vector<WindowListEntry>;
 // Whether a top-level window belongs in the list: not this program's main
 // window, visible, without parent, and either unowned and not a tool window or
 // owned and marked as an application window; and titled.
-bool IsListedWindow(const TopLevelWindow& window, WindowRef mainWindow);
+bool IsListedWindow(const TopLevelWindow &window, WindowRef mainWindow);
 
-void RefreshWindowList(App& app);
+void RefreshWindowList(App &app);
 
 // The first entry titled exactly so; 0 when there is none.
-WindowRef FindListedWindow(const WindowList& list, const std::wstring& title);
+WindowRef FindListedWindow(const WindowList &list, const std::wstring &title);
 
-}  // namespace orvane
+} // namespace orvane

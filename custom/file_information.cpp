@@ -8,37 +8,41 @@ namespace orvane {
 namespace {
 
 constexpr wchar_t kX86[] = L" (x86)";
-constexpr std::size_t kProgramFilesLength = 16;  // "C:\Program Files"
+constexpr std::size_t kProgramFilesLength = 16; // "C:\Program Files"
 
 // The old runtime's text of a moment: the short date, and the long time unless it is midnight.
-std::wstring GeneralDateText(System& sys, const DateTime& moment) {
+std::wstring GeneralDateText(System &sys, const DateTime &moment) {
     const bool midnight = moment.hour == 0 && moment.minute == 0 && moment.second == 0;
     return sys.dateText(moment, L"") + (midnight ? L"" : L" " + sys.timeText(moment, L""));
 }
 
-}  // namespace
+} // namespace
 
-std::wstring ToggleX86(const std::wstring& path) {
+std::wstring ToggleX86(const std::wstring &path) {
     std::wstring toggled = path;
-    if (const auto at = toggled.find(kX86); at != std::wstring::npos) return toggled.erase(at, std::size(kX86) - 1);
+    if (const auto at = toggled.find(kX86); at != std::wstring::npos)
+        return toggled.erase(at, std::size(kX86) - 1);
     return toggled.insert(std::min(kProgramFilesLength, toggled.size()), kX86);
 }
 
-std::wstring GroupedDigits(std::uint64_t number, const std::wstring& separator) {
-    if (number == 0) return {};
+std::wstring GroupedDigits(std::uint64_t number, const std::wstring &separator) {
+    if (number == 0)
+        return {};
     const std::wstring digits = std::to_wstring(number);
     std::wstring grouped;
     for (std::size_t i = 0; i < digits.size(); ++i) {
-        if (i > 0 && (digits.size() - i) % 3 == 0) grouped += separator;
+        if (i > 0 && (digits.size() - i) % 3 == 0)
+            grouped += separator;
         grouped += digits[i];
     }
     return grouped;
 }
 
-FileInformation InformationOf(App& app, const std::wstring& path) {
+FileInformation InformationOf(App &app, const std::wstring &path) {
     FileInformation info;
     info.fileName = BackslashFileName(path).substr(1);
-    if (info.fileName.size() == 2) info.fileName += L'\\';
+    if (info.fileName.size() == 2)
+        info.fileName += L'\\';
     if (const auto facts = app.sys.fileExists(path) ? app.sys.fileFacts(path) : std::nullopt) {
         info.altered = GeneralDateText(app.sys, facts->lastChange);
         info.size = GroupedDigits(facts->size, app.sys.thousandsSeparator());
@@ -55,16 +59,16 @@ FileInformation InformationOf(App& app, const std::wstring& path) {
     return info;
 }
 
-std::wstring InformationText(const FileInformation& info) {
+std::wstring InformationText(const FileInformation &info) {
     return L"File: " + info.fileName + L"\r\nPath: " + info.folder + L"\r\n\r\nSize: " + info.size + L"\r\nAltered: " +
            info.altered + L"\r\n\r\nTime: " + info.time + L"\r\nDate: " + info.date + L"\r\n";
 }
 
-void CopyInformation(App& app, const FileInformation& info) {
+void CopyInformation(App &app, const FileInformation &info) {
     app.sys.setClipboardText(InformationText(info));
     app.sys.beep();
     app.sys.showMessage(L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option.", kProgramTitle,
                         MessageIcon::Information, MessageButtons::Ok);
 }
 
-}  // namespace orvane
+} // namespace orvane

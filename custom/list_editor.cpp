@@ -20,23 +20,29 @@ constexpr auto kEditorMenu = std::to_array<MenuRow>({
     {L"", L"keyOpen", L"&Info", L"", {}},
     {L"", L"keyExit", L"E&xit", L"", {}},
 });
-constexpr auto kEditorCommands = std::to_array<EditorCommand>({EditorCommand::Load, EditorCommand::Save,
-    EditorCommand::Add, EditorCommand::Delete, EditorCommand::Info, EditorCommand::Exit});
+constexpr auto kEditorCommands =
+    std::to_array<EditorCommand>({EditorCommand::Load, EditorCommand::Save, EditorCommand::Add, EditorCommand::Delete,
+                                  EditorCommand::Info, EditorCommand::Exit});
 
 constexpr int kLastLine = static_cast<int>(kCustomEntries) - 1;
 
-}  // namespace
+} // namespace
 
-std::span<const MenuRow> EditorMenuRows() { return kEditorMenu; }
+std::span<const MenuRow> EditorMenuRows() {
+    return kEditorMenu;
+}
 
-const EditorCommand* FindEditorCommand(std::wstring_view caption) {
+const EditorCommand *FindEditorCommand(std::wstring_view caption) {
     return CommandOfCaption<EditorCommand>(kEditorMenu, kEditorCommands, caption);
 }
 
-std::wstring EditorCaption(const std::wstring& listFile) { return L"Custom programs ( " + listFile + L" )"; }
+std::wstring EditorCaption(const std::wstring &listFile) {
+    return L"Custom programs ( " + listFile + L" )";
+}
 
 void CustomListEditor::leaveName(int line) {
-    if (table_.isEmpty(Index(line))) table_.ProgramPaths[Index(line)].clear();
+    if (table_.isEmpty(Index(line)))
+        table_.ProgramPaths[Index(line)].clear();
 }
 
 void CustomListEditor::insertLine() {
@@ -74,13 +80,15 @@ void CustomListEditor::swapLines(int a, int b) {
 }
 
 bool CustomListEditor::moveUp() {
-    if (currentLine <= 0) return false;
+    if (currentLine <= 0)
+        return false;
     swapLines(currentLine, currentLine - 1);
     return true;
 }
 
 bool CustomListEditor::moveDown() {
-    if (currentLine >= kLastLine) return false;
+    if (currentLine >= kLastLine)
+        return false;
     swapLines(currentLine, currentLine + 1);
     return true;
 }
@@ -89,49 +97,57 @@ void CustomListEditor::startLine(int line) {
     ExecuteProcess(app_, table_.ProgramPaths[Index(line)], app_.MainWindowRef, kShowNormal, L"", false);
 }
 
-void CustomListEditor::takeEntry(const std::wstring& program, const std::wstring& folder) {
-    if (program.empty()) return;
+void CustomListEditor::takeEntry(const std::wstring &program, const std::wstring &folder) {
+    if (program.empty())
+        return;
     table_.ProgramPaths[Index(currentLine)] = program;
     table_.StartupFolders[Index(currentLine)] = folder;
 }
 
 bool CustomListEditor::loadList() {
-    std::wstring& listFile = app_.settings.CustomListFile;
+    std::wstring &listFile = app_.settings.CustomListFile;
     if (changed) {
         const MessageAnswer answer =
             app_.sys.showMessage(L"Save this list of files before loading a new one?\r\n\r\n" + listFile, kProgramTitle,
                                  MessageIcon::Question, MessageButtons::YesNoCancel);
-        if (answer == MessageAnswer::Cancel) return false;
-        if (answer == MessageAnswer::Yes) SaveCustomList(app_, table_);
+        if (answer == MessageAnswer::Cancel)
+            return false;
+        if (answer == MessageAnswer::Yes)
+            SaveCustomList(app_, table_);
     }
     const FolderKeeper keeper(app_.sys);
     const auto chosen = app_.sys.chooseFile(
         {.title = L"Select list of programs", .filter = app_.ListFileFilter, .folder = ParentFolder(listFile)});
-    if (!chosen || chosen->empty()) return false;
+    if (!chosen || chosen->empty())
+        return false;
     const std::wstring previous = std::exchange(listFile, *chosen);
     const bool loaded = LoadCustomList(app_, table_);
     // A list that was not read leaves the table as it was, and with it the file a save writes.
-    if (loaded) changed = false;
-    else listFile = previous;
+    if (loaded)
+        changed = false;
+    else
+        listFile = previous;
     return loaded;
 }
 
 bool CustomListEditor::saveList() {
-    std::wstring& listFile = app_.settings.CustomListFile;
+    std::wstring &listFile = app_.settings.CustomListFile;
     const FolderKeeper keeper(app_.sys);
     const std::wstring folder = ParentFolder(listFile);
-    if (!folder.empty() && app_.sys.pathExists(folder)) app_.sys.setCurrentFolder(folder);
+    if (!folder.empty() && app_.sys.pathExists(folder))
+        app_.sys.setCurrentFolder(folder);
     const auto chosen = app_.sys.chooseFile({.title = L"Browse files",
                                              .filter = app_.ListFileFilter,
                                              .preset = BackslashFileName(listFile).substr(1),
                                              .folder = folder,
                                              .save = true,
                                              .defaultExtension = L"lst"});
-    if (!chosen || chosen->empty()) return false;
+    if (!chosen || chosen->empty())
+        return false;
     listFile = *chosen;
     SaveCustomList(app_, table_);
     changed = false;
     return true;
 }
 
-}  // namespace orvane
+} // namespace orvane

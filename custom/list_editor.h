@@ -14,23 +14,35 @@ namespace orvane {
 class App;
 
 // The editor's menu, and the dispatch of its captions.
-enum class EditorCommand { Load, Save, Add, Delete, Info, Exit };
+enum class EditorCommand {
+    Load,
+    Save,
+    Add,
+    Delete,
+    Info,
+    Exit
+};
 std::span<const MenuRow> EditorMenuRows();
-const EditorCommand* FindEditorCommand(std::wstring_view caption);
+const EditorCommand *FindEditorCommand(std::wstring_view caption);
 
 // "Custom programs ( <list file> )"
-std::wstring EditorCaption(const std::wstring& listFile);
+std::wstring EditorCaption(const std::wstring &listFile);
 
 class CustomListEditor {
 public:
-    CustomListEditor(App& app, CustomProgramTable& table) : app_(app), table_(table) {}
+    CustomListEditor(App &app, CustomProgramTable &table) : app_(app), table_(table) {
+    }
 
     int currentLine = 0;
     // Set by insert, delete and move; cleared by a save or a load.
     bool changed = false;
 
-    void setName(int line, const std::wstring& text) { table_.DisplayNames[Index(line)] = text; }
-    void setProgram(int line, const std::wstring& text) { table_.ProgramPaths[Index(line)] = text; }
+    void setName(int line, const std::wstring &text) {
+        table_.DisplayNames[Index(line)] = text;
+    }
+    void setProgram(int line, const std::wstring &text) {
+        table_.ProgramPaths[Index(line)] = text;
+    }
     // Leaving a name that is blank clears the line's program: the name is the entry's key.
     void leaveName(int line);
 
@@ -45,7 +57,7 @@ public:
     // The line's program, started as the main window starts programs.
     void startLine(int line);
     // What the entry dialog returned for the current line: taken when the path is not empty.
-    void takeEntry(const std::wstring& program, const std::wstring& folder);
+    void takeEntry(const std::wstring &program, const std::wstring &folder);
 
     // Another list, after asking to save a changed one; true when the table was read anew.
     bool loadList();
@@ -53,11 +65,13 @@ public:
     bool saveList();
 
 private:
-    static std::size_t Index(int line) { return static_cast<std::size_t>(line); }
+    static std::size_t Index(int line) {
+        return static_cast<std::size_t>(line);
+    }
     void swapLines(int a, int b);
 
-    App& app_;
-    CustomProgramTable& table_;
+    App &app_;
+    CustomProgramTable &table_;
 };
 
-}  // namespace orvane
+} // namespace orvane

@@ -11,23 +11,25 @@
 
 namespace orvane {
 
-GridRows SplitForGrids(const CustomProgramTable& table) {
+GridRows SplitForGrids(const CustomProgramTable &table) {
     int named = 0;
-    for (std::size_t entry = 0; entry < kCustomEntries; ++entry) named += table.DisplayNames[entry].empty() ? 0 : 1;
+    for (std::size_t entry = 0; entry < kCustomEntries; ++entry)
+        named += table.DisplayNames[entry].empty() ? 0 : 1;
     const int first = *RoundToInt16(named / 2.0);
     return {first, first - (named & 1)};
 }
 
-std::vector<std::size_t> GridEntries(const CustomProgramTable& table, int grid) {
+std::vector<std::size_t> GridEntries(const CustomProgramTable &table, int grid) {
     const GridRows rows = SplitForGrids(table);
     const int start = grid == 1 ? 0 : rows.first;
     const int count = std::max(0, grid == 1 ? rows.first : rows.second);
     std::vector<std::size_t> entries;
-    for (int row = 0; row < count; ++row) entries.push_back(static_cast<std::size_t>(start + row));
+    for (int row = 0; row < count; ++row)
+        entries.push_back(static_cast<std::size_t>(start + row));
     return entries;
 }
 
-void StartInFolder(App& app, const std::wstring& program, const std::wstring& folder) {
+void StartInFolder(App &app, const std::wstring &program, const std::wstring &folder) {
     const std::wstring previous = app.sys.currentFolder();
     if (!program.empty() && app.sys.fileExists(program)) {
         app.sys.setCurrentFolder(folder);
@@ -38,8 +40,9 @@ void StartInFolder(App& app, const std::wstring& program, const std::wstring& fo
     app.sys.setCurrentFolder(previous);
 }
 
-void LaunchEntry(App& app, const CustomProgramTable& table, std::size_t entry) {
-    if (entry >= kCustomEntries || table.isEmpty(entry)) return;
+void LaunchEntry(App &app, const CustomProgramTable &table, std::size_t entry) {
+    if (entry >= kCustomEntries || table.isEmpty(entry))
+        return;
     StartInFolder(app, TrimBlanks(table.ProgramPaths[entry]), TrimBlanks(table.StartupFolders[entry]));
 }
 
@@ -56,7 +59,9 @@ constexpr auto kGridMenuCommands = std::to_array<GridMenuCommand>(
     {GridMenuCommand::Close, GridMenuCommand::Info, GridMenuCommand::EditList, GridMenuCommand::LoadProgram});
 
 using A = GridButtonAction;
-constexpr GridButton Main(std::wstring_view caption, Command command) { return {caption, A::MainCommand, {caption, command}}; }
+constexpr GridButton Main(std::wstring_view caption, Command command) {
+    return {caption, A::MainCommand, {caption, command}};
+}
 constexpr GridButton RunTool(std::wstring_view caption, Tool tool) {
     return {caption, A::MainCommand, {caption, Command::SuiteTool, tool}};
 }
@@ -79,18 +84,22 @@ constexpr auto kButtons = std::to_array<GridButton>({
     {L"&Exit", A::Exit},
 });
 
-}  // namespace
+} // namespace
 
-std::span<const MenuRow> GridMenuRows() { return kGridMenu; }
+std::span<const MenuRow> GridMenuRows() {
+    return kGridMenu;
+}
 
-const GridMenuCommand* FindGridMenuCommand(std::wstring_view caption) {
+const GridMenuCommand *FindGridMenuCommand(std::wstring_view caption) {
     return CommandOfCaption<GridMenuCommand>(kGridMenu, kGridMenuCommands, caption);
 }
 
-std::span<const GridButton> GridButtons() { return kButtons; }
+std::span<const GridButton> GridButtons() {
+    return kButtons;
+}
 
-void LoadDeadlinesWithArgument(App& app) {
-    const std::wstring& document = app.settings.DeadlinesFile;
+void LoadDeadlinesWithArgument(App &app) {
+    const std::wstring &document = app.settings.DeadlinesFile;
     if (document.empty() || !app.sys.fileExists(document)) {
         ReportFileNotFound(app, document);
         return;
@@ -99,4 +108,4 @@ void LoadDeadlinesWithArgument(App& app) {
     LaunchWithArgument(app, ResolveSuitePath(app, tool), document);
 }
 
-}  // namespace orvane
+} // namespace orvane

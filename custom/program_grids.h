@@ -24,36 +24,48 @@ struct GridRows {
     int first = 0;
     int second = 0;
 };
-GridRows SplitForGrids(const CustomProgramTable& table);
+GridRows SplitForGrids(const CustomProgramTable &table);
 
 // The table entries grid 1 or 2 shows, row by row.
-std::vector<std::size_t> GridEntries(const CustomProgramTable& table, int grid);
+std::vector<std::size_t> GridEntries(const CustomProgramTable &table, int grid);
 
 // Starts a program in its startup folder (an empty or missing folder leaves
 // the current one), then returns to the folder it came from. A missing
 // program is reported and nothing starts.
-void StartInFolder(App& app, const std::wstring& program, const std::wstring& folder);
+void StartInFolder(App &app, const std::wstring &program, const std::wstring &folder);
 
 // The launch of a row: nothing for an entry without a name.
-void LaunchEntry(App& app, const CustomProgramTable& table, std::size_t entry);
+void LaunchEntry(App &app, const CustomProgramTable &table, std::size_t entry);
 
 // The grids' popup menu, matched by caption in this order.
-enum class GridMenuCommand { Close, Info, EditList, LoadProgram };
+enum class GridMenuCommand {
+    Close,
+    Info,
+    EditList,
+    LoadProgram
+};
 std::span<const MenuRow> GridMenuRows();
-const GridMenuCommand* FindGridMenuCommand(std::wstring_view caption);
+const GridMenuCommand *FindGridMenuCommand(std::wstring_view caption);
 
 // The buttons around the grids. Most run a command of the main window's
 // table; the rest are the window's own.
-enum class GridButtonAction { MainCommand, Deadlines, Clock, FirstGrid, SecondGrid, Exit };
+enum class GridButtonAction {
+    MainCommand,
+    Deadlines,
+    Clock,
+    FirstGrid,
+    SecondGrid,
+    Exit
+};
 struct GridButton {
     std::wstring_view caption;
     GridButtonAction action;
-    DispatchRow row{};  // for MainCommand
+    DispatchRow row{}; // for MainCommand
 };
 std::span<const GridButton> GridButtons();
 
 // The deadlines file in its tool, the file quoted when it holds a blank. An
 // empty or missing file is reported.
-void LoadDeadlinesWithArgument(App& app);
+void LoadDeadlinesWithArgument(App &app);
 
-}  // namespace orvane
+} // namespace orvane

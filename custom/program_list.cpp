@@ -10,21 +10,23 @@ namespace orvane {
 
 namespace {
 
-CustomProgramTable::Column& Section(CustomProgramTable& table, std::size_t index) {
+CustomProgramTable::Column &Section(CustomProgramTable &table, std::size_t index) {
     return index == 0 ? table.DisplayNames : index == 1 ? table.ProgramPaths : table.StartupFolders;
 }
 
-}  // namespace
+} // namespace
 
-bool CustomProgramTable::isEmpty(std::size_t entry) const { return TrimBlanks(DisplayNames[entry]).empty(); }
+bool CustomProgramTable::isEmpty(std::size_t entry) const {
+    return TrimBlanks(DisplayNames[entry]).empty();
+}
 
-bool LoadCustomList(App& app, CustomProgramTable& table) {
+bool LoadCustomList(App &app, CustomProgramTable &table) {
     const std::wstring given = app.settings.CustomListFile;
     if (!given.empty() && !app.sys.fileExists(given)) {
         if (std::wstring found = ResolveDocumentPath(app, given); app.sys.fileExists(found))
             app.settings.CustomListFile = found;
     }
-    const std::wstring& path = app.settings.CustomListFile;
+    const std::wstring &path = app.settings.CustomListFile;
     if (path.empty() || !app.sys.fileExists(path)) {
         ReportFileNotFound(app, given);
         return false;
@@ -37,23 +39,26 @@ bool LoadCustomList(App& app, CustomProgramTable& table) {
     table = {};
     // A file that exists but cannot be opened (locked, no rights) gives an
     // empty table and no message, as the old reader did.
-    if (!file.bytes) return true;
+    if (!file.bytes)
+        return true;
     std::size_t number = 0;
     for (std::string_view raw : SplitAtCarriageReturns(*file.bytes, 3 * kCustomEntries)) {
         std::wstring line = app.sys.fromAnsi(std::string(raw));
-        if (ContainsIgnoringCase(line, L".exe") && !app.sys.fileExists(line)) SwapProgramFilesFolder(line);
+        if (ContainsIgnoringCase(line, L".exe") && !app.sys.fileExists(line))
+            SwapProgramFilesFolder(line);
         Section(table, number / kCustomEntries)[number % kCustomEntries] = std::move(line);
         ++number;
     }
     return true;
 }
 
-std::wstring FormatCustomList(CustomProgramTable& table) {
+std::wstring FormatCustomList(CustomProgramTable &table) {
     std::wstring text;
     for (std::size_t section = 0; section < 3; ++section) {
         for (std::size_t entry = 0; entry < kCustomEntries; ++entry) {
-            std::wstring& value = Section(table, section)[entry];
-            if (section > 0 && table.isEmpty(entry)) value.clear();
+            std::wstring &value = Section(table, section)[entry];
+            if (section > 0 && table.isEmpty(entry))
+                value.clear();
             text += value + L"\r\n";
         }
     }
@@ -61,10 +66,10 @@ std::wstring FormatCustomList(CustomProgramTable& table) {
 }
 
 // The whole content is made before the old file goes, as the settings are.
-void SaveCustomList(App& app, CustomProgramTable& table) {
+void SaveCustomList(App &app, CustomProgramTable &table) {
     const std::string bytes = app.sys.toAnsi(FormatCustomList(table));
     DeleteFileIfPresent(app, app.settings.CustomListFile);
     app.sys.writeFile(app.settings.CustomListFile, bytes);
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -20,7 +20,7 @@ struct CustomProgramTable {
 
     // The name is the entry's key: blanks alone leave it empty.
     bool isEmpty(std::size_t entry) const;
-    bool operator==(const CustomProgramTable&) const = default;
+    bool operator==(const CustomProgramTable &) const = default;
 };
 
 // Reads the file CustomListFile names, after the suite's path rules have had
@@ -29,13 +29,13 @@ struct CustomProgramTable {
 // otherwise the table is read anew (empty when the file cannot be opened) and
 // the result is true. Program Files paths that are missing are swapped for
 // their (x86) twin, and back.
-bool LoadCustomList(App& app, CustomProgramTable& table);
+bool LoadCustomList(App &app, CustomProgramTable &table);
 
 // The file's content: always 192 lines ending in CR LF. The path and folder of
 // an empty entry are cleared, in the table as well.
-std::wstring FormatCustomList(CustomProgramTable& table);
+std::wstring FormatCustomList(CustomProgramTable &table);
 
 // Writes the table to CustomListFile as a fresh file. Failures go unreported.
-void SaveCustomList(App& app, CustomProgramTable& table);
+void SaveCustomList(App &app, CustomProgramTable &table);
 
-}  // namespace orvane
+} // namespace orvane

@@ -19,13 +19,14 @@ std::wstring OwnPath() {
     return std::wstring(path, GetModuleFileNameW(nullptr, path, MAX_PATH * 4));
 }
 
-int Install(int count, wchar_t** names) {
+int Install(int count, wchar_t **names) {
     const std::wstring folder = names[0], self = OwnPath();
     CreateDirectoryW(folder.c_str(), nullptr);
     bool copied = true;
-    for (const orvane::SuiteTool& tool : orvane::kSuiteTools)
+    for (const orvane::SuiteTool &tool : orvane::kSuiteTools)
         copied &= CopyFileW(self.c_str(), (folder + L"\\" + std::wstring(tool.program) + L".exe").c_str(), FALSE) != 0;
-    for (int i = 1; i < count; ++i) copied &= CopyFileW(self.c_str(), (folder + L"\\" + names[i]).c_str(), FALSE) != 0;
+    for (int i = 1; i < count; ++i)
+        copied &= CopyFileW(self.c_str(), (folder + L"\\" + names[i]).c_str(), FALSE) != 0;
     return copied ? 0 : 1;
 }
 
@@ -37,20 +38,23 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         GetClientRect(window, &area);
         InflateRect(&area, -8, -8);
         SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
-        DrawTextW(dc, (L"Started as:\n" + std::wstring(GetCommandLineW())).c_str(), -1, &area, DT_WORDBREAK | DT_NOPREFIX);
+        DrawTextW(dc, (L"Started as:\n" + std::wstring(GetCommandLineW())).c_str(), -1, &area,
+                  DT_WORDBREAK | DT_NOPREFIX);
         EndPaint(window, &paint);
         return 0;
     }
-    if (message == WM_DESTROY) PostQuitMessage(0);
+    if (message == WM_DESTROY)
+        PostQuitMessage(0);
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-}  // namespace
+} // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show) {
     int count = 0;
-    wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (count >= 3 && std::wstring(arguments[1]) == L"--install") return Install(count - 2, arguments + 2);
+    wchar_t **arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (count >= 3 && std::wstring(arguments[1]) == L"--install")
+        return Install(count - 2, arguments + 2);
 
     WNDCLASSW wc{};
     wc.lpfnWndProc = Procedure;
@@ -61,12 +65,14 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show) {
     RegisterClassW(&wc);
     // Each copy a little below and right of the ones already open.
     int open = 0;
-    for (HWND w = FindWindowW(kClass, nullptr); w; w = FindWindowExW(nullptr, w, kClass, nullptr)) ++open;
+    for (HWND w = FindWindowW(kClass, nullptr); w; w = FindWindowExW(nullptr, w, kClass, nullptr))
+        ++open;
     const std::wstring path = OwnPath(), name = path.substr(path.rfind(L'\\') + 1);
-    HWND window = CreateWindowW(kClass, name.c_str(), WS_OVERLAPPEDWINDOW, 160 + 30 * (open % 10), 140 + 30 * (open % 10),
-                                520, 160, nullptr, nullptr, instance, nullptr);
+    HWND window = CreateWindowW(kClass, name.c_str(), WS_OVERLAPPEDWINDOW, 160 + 30 * (open % 10),
+                                140 + 30 * (open % 10), 520, 160, nullptr, nullptr, instance, nullptr);
     ShowWindow(window, show);
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        DispatchMessageW(&message);
     return 0;
 }

@@ -15,7 +15,7 @@ using namespace testsupport;
 class CustomPrograms : public ProgramTest {
 protected:
     // The bar on a list file, with its custom programs window open.
-    HWND open(const std::string& list) {
+    HWND open(const std::string &list) {
         WriteBytes(file(L"My.lst"), list);
         return ProgramTest::open({{28, path(L"My.lst")}}, L"C&ustom programs", L"Custom programs");
     }
@@ -26,24 +26,29 @@ TEST_F(CustomPrograms, EnterStartsTheRowInItsFolderMissingProgramsAreReportedAnd
     CreateDirectoryW(file(L"start").c_str(), nullptr);
     CopyInto(EnvironmentPath(L"ORVANE_PROBE"), file(L"My Tools"), L"run me.exe");
     const std::string program = path(L"My Tools\\run me.exe");
-    HWND dialog = open(CustomListFile({{"Caf\xe9", program, path(L"start")}, {"Beta", program, ""},
-                                       {"Gone", path(L"gone.exe"), ""}, {"Delta", program, ""}}));
+    HWND dialog = open(CustomListFile({{"Caf\xe9", program, path(L"start")},
+                                       {"Beta", program, ""},
+                                       {"Gone", path(L"gone.exe"), ""},
+                                       {"Delta", program, ""}}));
     ASSERT_NE(dialog, nullptr);
-    EXPECT_TRUE(Becomes(std::vector<std::wstring>{L"Caf\u00e9", L"Beta"}, ListViewTexts, GetDlgItem(dialog, IDC_GRID1), 1));
+    EXPECT_TRUE(
+        Becomes(std::vector<std::wstring>{L"Caf\u00e9", L"Beta"}, ListViewTexts, GetDlgItem(dialog, IDC_GRID1), 1));
     EXPECT_TRUE(Becomes(std::vector<std::wstring>{L"Gone", L"Delta"}, ListViewTexts, GetDlgItem(dialog, IDC_GRID2), 1));
 
     PressKeys(dialog, {VK_RETURN});
     const std::wstring log = file(L"My Tools\\probe.log");
     const ProbeRecord started = ReadProbeLog(log, 1).at(0);
     EXPECT_EQ(std::pair(started.commandLine, started.folder), std::pair(program, path(L"start")));
-    for (WORD key : {VK_DOWN, VK_RIGHT, VK_RETURN}) PressKeys(dialog, {key});
-    EXPECT_TRUE(AnswerMessage(orvane->id(), L"Cannot locate the following program/file:\r\n\r\n" +
-                                                file(L"gone.exe") + L"\r\n\r\n"));
+    for (WORD key : {VK_DOWN, VK_RIGHT, VK_RETURN})
+        PressKeys(dialog, {key});
+    EXPECT_TRUE(AnswerMessage(orvane->id(),
+                              L"Cannot locate the following program/file:\r\n\r\n" + file(L"gone.exe") + L"\r\n\r\n"));
     EXPECT_EQ(ReadProbeLog(log).size(), 1u) << "nothing else started";
 
     ASSERT_TRUE(EscapeFrom(dialog));
     const auto settings = closeAndReadSettings();
-    EXPECT_EQ(std::pair(settings.at(25), settings.at(26)), std::pair(std::string("1"), std::string("0"))) << "current rows";
+    EXPECT_EQ(std::pair(settings.at(25), settings.at(26)), std::pair(std::string("1"), std::string("0")))
+        << "current rows";
     EXPECT_GT(std::stoi(settings.at(24)), 0) << "width";
 }
 
@@ -52,11 +57,14 @@ TEST_F(CustomPrograms, InformationIsCopiedAndTheEditorSavesAFreshFileAndDropsWha
     ASSERT_NE(dialog, nullptr);
     ASSERT_TRUE(Becomes(std::vector<std::wstring>{L"One"}, ListViewTexts, GetDlgItem(dialog, IDC_GRID1), 1));
 
-    HWND info = FromPopupMenu(*orvane, dialog, 'I', L"File information"); ASSERT_NE(info, nullptr);
+    HWND info = FromPopupMenu(*orvane, dialog, 'I', L"File information");
+    ASSERT_NE(info, nullptr);
     EXPECT_EQ(ControlText(info, IDC_INFO_EXISTS), L"File exists: YES");
     PressButton(info, IDC_INFO_CLIP);
-    ASSERT_TRUE(AnswerMessage(orvane->id(), L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option."));
-    EXPECT_TRUE(ClipboardText().starts_with(L"File: My.lst\r\nPath: " + folder.path() + L"\r\n\r\nSize: ")) << Utf8(ClipboardText());
+    ASSERT_TRUE(
+        AnswerMessage(orvane->id(), L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option."));
+    EXPECT_TRUE(ClipboardText().starts_with(L"File: My.lst\r\nPath: " + folder.path() + L"\r\n\r\nSize: "))
+        << Utf8(ClipboardText());
     ASSERT_TRUE(EscapeFrom(info));
 
     HWND editor = FromPopupMenu(*orvane, dialog, 'E', L"Custom programs ( " + file(L"My.lst") + L" )");
@@ -64,7 +72,7 @@ TEST_F(CustomPrograms, InformationIsCopiedAndTheEditorSavesAFreshFileAndDropsWha
     HWND lines = GetDlgItem(editor, IDC_EDITOR_LINES);
     EXPECT_EQ(ControlText(lines, IDC_FIRST_NAME_FIELD), L"One");
     SetControlText(lines, IDC_FIRST_NAME_FIELD, L"Uno");
-    PressButton(editor, IDC_FIRST_EDITOR_BUTTON + 1);  // Save list
+    PressButton(editor, IDC_FIRST_EDITOR_BUTTON + 1); // Save list
     ASSERT_TRUE(AnswerFileDialog(WaitForDialogTitled(orvane->id(), L"Browse files"), file(L"New")));
     const std::wstring saved = file(L"New.lst");
     // The caption names the file once it has been written.
@@ -78,5 +86,5 @@ TEST_F(CustomPrograms, InformationIsCopiedAndTheEditorSavesAFreshFileAndDropsWha
     EXPECT_TRUE(Becomes(std::vector<std::wstring>{L"Two"}, ListViewTexts, GetDlgItem(dialog, IDC_GRID2), 1));
 }
 
-}  // namespace
-}  // namespace orvane::e2e
+} // namespace
+} // namespace orvane::e2e

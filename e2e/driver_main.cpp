@@ -16,29 +16,40 @@ using namespace orvane;
 using testsupport::FindProcessWindow, testsupport::WaitFor;
 constexpr std::chrono::seconds kLong(30);
 
-int wmain(int argc, wchar_t** argv) {
+int wmain(int argc, wchar_t **argv) {
     const std::wstring step = argc > 1 ? argv[1] : L"";
     if (step == L"rect" && argc > 2) {
         HWND dialog = e2e::WaitForDialogTitled(0, argv[2], kLong);
         RECT r{};
-        return dialog && GetWindowRect(dialog, &r) ? std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top), 0 : 1;
+        return dialog && GetWindowRect(dialog, &r)
+               ? std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top),
+               0 : 1;
     }
     if (step == L"leave" && argc > 2) {
         HWND window = FindProcessWindow(0, e2e::kDialogClass, argv[2]);
-        if (window) PostMessageW(window, WM_CLOSE, 0, 0);
+        if (window)
+            PostMessageW(window, WM_CLOSE, 0, 0);
         return window && e2e::AnswerPassword(0, L"") && e2e::Gone(window, kLong) ? 0 : 1;
     }
     if (step != L"wait-bar" && step != L"open-menu" && step != L"close-bar" && !(step == L"pick" && argc > 2)) {
-        std::fprintf(stderr, "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | leave TITLE | close-bar\n");
+        std::fprintf(stderr,
+                     "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | leave TITLE | close-bar\n");
         return 2;
     }
     HWND bar = nullptr;
-    WaitFor([&] { return (bar = FindWindowW(e2e::kMainWindowClass, nullptr)) && IsWindowVisible(bar); },
-            step == L"close-bar" ? std::chrono::seconds(0) : kLong);
-    if (!bar) return 1;
-    if (step == L"open-menu") e2e::PressKeys(bar, {VK_MENU, 'F'});
-    if (step == L"pick") return e2e::PickMenuItem(bar, argv[2]) ? 0 : 1;
-    if (step != L"close-bar") return 0;
-    PostMessageW(bar, WM_CANCELMODE, 0, 0), PostMessageW(bar, WM_CLOSE, 0, 0);  // after closing a menu left open
+    WaitFor(
+        [&] {
+            return (bar = FindWindowW(e2e::kMainWindowClass, nullptr)) && IsWindowVisible(bar);
+        },
+        step == L"close-bar" ? std::chrono::seconds(0) : kLong);
+    if (!bar)
+        return 1;
+    if (step == L"open-menu")
+        e2e::PressKeys(bar, {VK_MENU, 'F'});
+    if (step == L"pick")
+        return e2e::PickMenuItem(bar, argv[2]) ? 0 : 1;
+    if (step != L"close-bar")
+        return 0;
+    PostMessageW(bar, WM_CANCELMODE, 0, 0), PostMessageW(bar, WM_CLOSE, 0, 0); // after closing a menu left open
     return e2e::Gone(bar, kLong) ? 0 : 1;
 }

@@ -20,31 +20,45 @@ using namespace testsupport;
 
 constexpr int kBarWidthTwips = 16060, kBarHeightTwips = 1020;
 
-int ScreenDpi() { return static_cast<int>(orvane::ui::WindowDpi(nullptr)); }
-LONG Pixels(int twips, int dpi = ScreenDpi()) { return MulDiv(twips, dpi, 1440); }
-std::string Twips(int pixels, int dpi) { return std::to_string(MulDiv(pixels, 1440, dpi)); }
+int ScreenDpi() {
+    return static_cast<int>(orvane::ui::WindowDpi(nullptr));
+}
+LONG Pixels(int twips, int dpi = ScreenDpi()) {
+    return MulDiv(twips, dpi, 1440);
+}
+std::string Twips(int pixels, int dpi) {
+    return std::to_string(MulDiv(pixels, 1440, dpi));
+}
 
 // The settings file the bar writes on closing: its place and size from its rectangle, the design colour
 // RGB(240, 240, 240), the default skin, and the given lines.
-std::string BarFile(const ProgramFolder& folder, const RECT& r, std::map<int, std::string> lines = {},
+std::string BarFile(const ProgramFolder &folder, const RECT &r, std::map<int, std::string> lines = {},
                     int dpi = ScreenDpi()) {
-    lines.insert({{1, Twips(r.top, dpi)}, {2, Twips(r.left, dpi)}, {10, Twips(r.right - r.left, dpi)},
-                  {11, Twips(r.bottom - r.top, dpi)}, {12, "15790320"}, {19, Utf8(folder.path()) + "\\Skin_Alba.bmp"}});
+    lines.insert({{1, Twips(r.top, dpi)},
+                  {2, Twips(r.left, dpi)},
+                  {10, Twips(r.right - r.left, dpi)},
+                  {11, Twips(r.bottom - r.top, dpi)},
+                  {12, "15790320"},
+                  {19, Utf8(folder.path()) + "\\Skin_Alba.bmp"}});
     return SettingsText(lines);
 }
 
 // Closes the bar as its close box does: its rectangle, and the settings file
 // as it is after the program ended by itself. Nothing when either went wrong.
-struct Closed { RECT bar; std::string written; };
-std::optional<Closed> Close(const OrvaneProcess& orvane, HWND bar, const ProgramFolder& folder) {
+struct Closed {
+    RECT bar;
+    std::string written;
+};
+std::optional<Closed> Close(const OrvaneProcess &orvane, HWND bar, const ProgramFolder &folder) {
     RECT r{};
-    if (!bar || !GetWindowRect(bar, &r)) return std::nullopt;
+    if (!bar || !GetWindowRect(bar, &r))
+        return std::nullopt;
     orvane.close();
     return orvane.waitForExit() == 0u ? std::optional(Closed{r, ReadBytes(folder.settingsFile())}) : std::nullopt;
 }
 
 // Starts the bar, which must come up without any message, and closes it.
-std::optional<Closed> StartQuietlyAndClose(const ProgramFolder& folder) {
+std::optional<Closed> StartQuietlyAndClose(const ProgramFolder &folder) {
     OrvaneProcess orvane(folder);
     const HWND bar = orvane.waitForMainWindow();
     return orvane.waitForDialog(0ms) ? std::nullopt : Close(orvane, bar, folder);
@@ -59,13 +73,15 @@ std::string Garbage(std::size_t size) {
 TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     ProgramFolder folder(L"first start");
     OrvaneProcess orvane(folder);
-    HWND box = orvane.waitForDialog(); ASSERT_NE(box, nullptr);
+    HWND box = orvane.waitForDialog();
+    ASSERT_NE(box, nullptr);
     EXPECT_EQ(TextOf(box) + L"|" + MessageBoxText(box),
               L"Orvane|Cannot locate the following program/file:\r\n\r\n" + folder.settingsFile() + L"\r\n\r\n");
     EXPECT_EQ(orvane.waitForMainWindow(0ms), nullptr) << "the message comes before the bar";
     PressButton(box, IDOK);
 
-    HWND bar = orvane.waitForMainWindow(); ASSERT_NE(bar, nullptr);
+    HWND bar = orvane.waitForMainWindow();
+    ASSERT_NE(bar, nullptr);
     EXPECT_EQ(TextOf(bar), L"Orvane");
     EXPECT_EQ(orvane.waitForDialog(0ms), nullptr) << "one message only";
     HWND about = FromMenu(orvane, bar, L"&About this program", L"About Orvane");
@@ -74,7 +90,7 @@ TEST(StartUp, FirstStartNamesTheMissingFileThenOpensTheSingleStripBar) {
     ASSERT_TRUE(EscapeFrom(about));
     const auto closed = Close(orvane, bar, folder);
     ASSERT_TRUE(closed);
-    const RECT& r = closed->bar;
+    const RECT &r = closed->bar;
     EXPECT_EQ(std::tuple(r.left, r.top, r.right - r.left, r.bottom - r.top),
               std::tuple(0L, 0L, Pixels(kBarWidthTwips), Pixels(kBarHeightTwips)));
     EXPECT_EQ(closed->written, BarFile(folder, r));
@@ -91,16 +107,18 @@ TEST(StartUp, SecondCopyBringsTheFirstForwardAndLeavesTheSettingsAlone) {
 
     OrvaneProcess second(folder);
     bool secondShowedAWindow = false;
-    WaitFor([&] {
-        secondShowedAWindow |= second.waitForMainWindow(0ms) || second.waitForDialog(0ms);
-        return second.waitForExit(0ms).has_value();
-    }, 15s);
+    WaitFor(
+        [&] {
+            secondShowedAWindow |= second.waitForMainWindow(0ms) || second.waitForDialog(0ms);
+            return second.waitForExit(0ms).has_value();
+        },
+        15s);
     EXPECT_EQ(std::pair(second.waitForExit(0ms), secondShowedAWindow), std::pair(std::optional<DWORD>(0u), false));
     EXPECT_TRUE(Becomes(FALSE, IsIconic, bar)) << "restored";
     EXPECT_TRUE(Becomes(bar, GetForegroundWindow)) << "in front";
     EXPECT_EQ(ReadBytes(folder.settingsFile()), settings);
     const auto closed = Close(first, bar, folder);
-    ASSERT_TRUE(closed);  // where it was put, and the file written from there
+    ASSERT_TRUE(closed); // where it was put, and the file written from there
     EXPECT_EQ(std::tuple(closed->bar.left, closed->bar.top), std::tuple(Pixels(750), Pixels(1500)));
     EXPECT_EQ(closed->written, BarFile(folder, closed->bar));
 }
@@ -118,8 +136,9 @@ TEST(StartUp, TheBarKeepsItsSizeInTwipsOnAHighDpiScreenAndItsWidthWithinTheWorkA
     EXPECT_EQ(std::tuple(r.left, r.top, r.bottom - r.top), std::tuple(300L, 150L, Pixels(kBarHeightTwips, kDpi)));
     RECT area{};
     EXPECT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0));
-    EXPECT_EQ(closed->written, BarFile(folder, r, {{1, "1500"}, {2, "3000"}, {11, "1020"},
-                                                   {39, Twips(area.right - area.left, kDpi)}}, kDpi));
+    EXPECT_EQ(
+        closed->written,
+        BarFile(folder, r, {{1, "1500"}, {2, "3000"}, {11, "1020"}, {39, Twips(area.right - area.left, kDpi)}}, kDpi));
 }
 
 TEST(BadSettings, GarbageIsRewrittenCleanAndTenMegabytesWithAMegabyteLineAreReadUpToLine39) {
@@ -127,7 +146,8 @@ TEST(BadSettings, GarbageIsRewrittenCleanAndTenMegabytesWithAMegabyteLineAreRead
     ProgramFolder garbage(L"garbage settings \u0141\u00f3d\u017a"), huge(L"huge settings");
     const std::string longLine(1 << 20, 'x');
     std::string content = SettingsText({{4, longLine}, {7, "11"}});
-    while (content.size() < (10u << 20)) content += Garbage(1 << 16) + "\r\n";
+    while (content.size() < (10u << 20))
+        content += Garbage(1 << 16) + "\r\n";
     ASSERT_TRUE(WriteBytes(garbage.settingsFile(), Garbage(64 * 1024)) && WriteBytes(huge.settingsFile(), content));
     auto closed = StartQuietlyAndClose(garbage);
     ASSERT_TRUE(closed);
@@ -140,7 +160,8 @@ TEST(BadSettings, LockedFileIsNeitherReadNorOverwritten) {
     ProgramFolder folder(L"locked settings");
     const std::string content = SettingsText({{1, "1500"}, {7, "11"}});
     ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
-    HANDLE lock = CreateFileW(folder.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    HANDLE lock =
+        CreateFileW(folder.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(lock, INVALID_HANDLE_VALUE);
     const auto closed = StartQuietlyAndClose(folder);
     CloseHandle(lock);
@@ -149,5 +170,5 @@ TEST(BadSettings, LockedFileIsNeitherReadNorOverwritten) {
     EXPECT_EQ(ReadBytes(folder.settingsFile()), content);
 }
 
-}  // namespace
-}  // namespace orvane::e2e
+} // namespace
+} // namespace orvane::e2e

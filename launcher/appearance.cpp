@@ -7,9 +7,15 @@ namespace orvane {
 
 namespace {
 
-int Red(Colour c) { return static_cast<int>(c & 0xFF); }
-int Green(Colour c) { return static_cast<int>((c >> 8) & 0xFF); }
-int Blue(Colour c) { return static_cast<int>((c >> 16) & 0xFF); }
+int Red(Colour c) {
+    return static_cast<int>(c & 0xFF);
+}
+int Green(Colour c) {
+    return static_cast<int>((c >> 8) & 0xFF);
+}
+int Blue(Colour c) {
+    return static_cast<int>((c >> 16) & 0xFF);
+}
 Colour Rgb(int red, int green, int blue) {
     return static_cast<Colour>(red) | static_cast<Colour>(green) << 8 | static_cast<Colour>(blue) << 16;
 }
@@ -28,10 +34,11 @@ Colour Mix(Colour a, Colour b) {
     return Rgb((Red(a) + Red(b)) / 2, (Green(a) + Green(b)) / 2, (Blue(a) + Blue(b)) / 2);
 }
 
-}  // namespace
+} // namespace
 
 SkinColours SkinColoursOf(std::span<const std::uint32_t> pixels) {
-    if (pixels.empty()) return {};
+    if (pixels.empty())
+        return {};
     std::uint64_t red = 0, green = 0, blue = 0;
     for (const std::uint32_t pixel : pixels) {
         red += (pixel >> 16) & 0xFF;
@@ -46,13 +53,15 @@ SkinColours SkinColoursOf(std::span<const std::uint32_t> pixels) {
     return {back, (1.05 / (l + 0.05) > (l + 0.05) / 0.05) ? kWhite : kBlack};
 }
 
-MenuColours MenuColoursFor(const std::optional<SkinColours>& skin) {
-    if (!skin) return {0xF6F6F6, kWhite, kBlack, 0xD1ADAD, kBlack, 0x800000, 0xD1ADAD};
+MenuColours MenuColoursFor(const std::optional<SkinColours> &skin) {
+    if (!skin)
+        return {0xF6F6F6, kWhite, kBlack, 0xD1ADAD, kBlack, 0x800000, 0xD1ADAD};
     const Colour back = skin->back, fore = skin->fore;
     MenuColours colours{back, back, fore, 0, fore, fore, Mix(back, fore)};
     if ((Red(back) + Green(back) + Blue(back)) / 3 <= 127) {
         // A dark skin: a darker highlight under white text.
-        colours.highlight = Rgb(std::max(Red(back) - 128, 0), std::max(Green(back) - 128, 0), std::max(Blue(back) - 128, 0));
+        colours.highlight =
+            Rgb(std::max(Red(back) - 128, 0), std::max(Green(back) - 128, 0), std::max(Blue(back) - 128, 0));
         colours.highlightText = colours.frame = colours.separator = kWhite;
     } else {
         // A light skin: the highlight moves away from the text colour, so the text stands out more on it.
@@ -61,4 +70,4 @@ MenuColours MenuColoursFor(const std::optional<SkinColours>& skin) {
     return colours;
 }
 
-}  // namespace orvane
+} // namespace orvane

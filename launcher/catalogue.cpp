@@ -7,8 +7,8 @@ namespace orvane {
 static_assert(InEnumOrder(kSuiteTools, &SuiteTool::tool));
 
 std::wstring BuiltInPath(Tool tool) {
-    const SuiteTool& t = SuiteToolOf(tool);
+    const SuiteTool &t = SuiteToolOf(tool);
     return std::wstring(kSuiteFolder).append(t.folder).append(L"\\").append(t.program).append(L".exe");
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -12,26 +12,61 @@
 namespace orvane {
 
 enum class Tool : std::uint8_t {
-    FileManager, FileInspector, FileBox, FileCopier, UnicodeExplorer, StartupManager, FileFinder, TextFinder,
-    QuickSearch, DiskDrives, ClipboardViewer,
-    DocumentEditor, NotesEditor, UnicodeEditor, TabbedNotes, TabbedEditor, TextDatabases, TextUtility, ScratchPad,
-    ShortTexts, EmailManager, Outliner, PdfViewer,
-    WebFileEditor, FileTransfer, ZipArchives, ToDo, Diary,
-    ImageEditor, ImageViewer, Thumbnails, Drawing, Workflow, Magnifier, SlideShow,
-    Calculator, Clock, Workdesk, PersonalFiles, RunningPrograms, TellmarkSet, AddressGrid,
+    FileManager,
+    FileInspector,
+    FileBox,
+    FileCopier,
+    UnicodeExplorer,
+    StartupManager,
+    FileFinder,
+    TextFinder,
+    QuickSearch,
+    DiskDrives,
+    ClipboardViewer,
+    DocumentEditor,
+    NotesEditor,
+    UnicodeEditor,
+    TabbedNotes,
+    TabbedEditor,
+    TextDatabases,
+    TextUtility,
+    ScratchPad,
+    ShortTexts,
+    EmailManager,
+    Outliner,
+    PdfViewer,
+    WebFileEditor,
+    FileTransfer,
+    ZipArchives,
+    ToDo,
+    Diary,
+    ImageEditor,
+    ImageViewer,
+    Thumbnails,
+    Drawing,
+    Workflow,
+    Magnifier,
+    SlideShow,
+    Calculator,
+    Clock,
+    Workdesk,
+    PersonalFiles,
+    RunningPrograms,
+    TellmarkSet,
+    AddressGrid,
     Count
 };
 
 struct SuiteTool {
     Tool tool;
     std::wstring_view role;
-    std::wstring_view key;      // the menu item's key
-    std::wstring_view caption;  // with "&" before the access letter; empty for a tool no item starts
+    std::wstring_view key;     // the menu item's key
+    std::wstring_view caption; // with "&" before the access letter; empty for a tool no item starts
     // A second caption of the same tool: the file box's on the bar, and the
     // running-programs tool's one that only the dispatch knows.
     std::wstring_view otherCaption;
-    std::wstring_view folder;   // below the suite folder
-    std::wstring_view program;  // without ".exe"
+    std::wstring_view folder;  // below the suite folder
+    std::wstring_view program; // without ".exe"
 };
 
 inline constexpr std::array<SuiteTool, static_cast<std::size_t>(Tool::Count)> kSuiteTools = {{
@@ -41,12 +76,10 @@ inline constexpr std::array<SuiteTool, static_cast<std::size_t>(Tool::Count)> kS
     {Tool::FileCopier, L"file copier", L"keyCopier", L"File &copier", L"", L"TS_Copier", L"TS_Copier"},
     {Tool::UnicodeExplorer, L"Unicode file explorer", L"keyUniFiles", L"&Unicode file explorer", L"", L"TS_UniFiles",
      L"TS_UniFiles"},
-    {Tool::StartupManager, L"start-up manager", L"keyStartup", L"&Start-up manager", L"", L"TS_Startup",
-     L"TS_Startup"},
+    {Tool::StartupManager, L"start-up manager", L"keyStartup", L"&Start-up manager", L"", L"TS_Startup", L"TS_Startup"},
     {Tool::FileFinder, L"file finder", L"keyFinder", L"File fi&nder", L"", L"TS_Finder", L"TS_Finder"},
     {Tool::TextFinder, L"text finder", L"keyTextFind", L"&Text finder", L"", L"TS_TextFind", L"TS_TextFind"},
-    {Tool::QuickSearch, L"fast file search", L"keyQuickFind", L"&Quick search", L"", L"TS_QuickFind",
-     L"TS_QuickFind"},
+    {Tool::QuickSearch, L"fast file search", L"keyQuickFind", L"&Quick search", L"", L"TS_QuickFind", L"TS_QuickFind"},
     {Tool::DiskDrives, L"disk-drive utility", L"keyDrives", L"&Disk drives", L"", L"TS_Drives", L"TS_Drives"},
     {Tool::ClipboardViewer, L"clipboard viewer", L"keyClipboard", L"C&lipboard viewer", L"", L"TS_Clipboard",
      L"TS_Clipboard"},
@@ -59,8 +92,7 @@ inline constexpr std::array<SuiteTool, static_cast<std::size_t>(Tool::Count)> kS
     {Tool::TextDatabases, L"text databases", L"keyTextBase", L"Te&xt databases", L"", L"TS_TextBase", L"TS_TextBase"},
     {Tool::TextUtility, L"general text utility", L"keyTextTools", L"Text uti&lity", L"", L"TS_TextTools",
      L"TS_TextTools"},
-    {Tool::ScratchPad, L"scratch-pad editor", L"keyScratch", L"&Scratch pad", L"", L"TS_ScratchPad",
-     L"TS_ScratchPad"},
+    {Tool::ScratchPad, L"scratch-pad editor", L"keyScratch", L"&Scratch pad", L"", L"TS_ScratchPad", L"TS_ScratchPad"},
     {Tool::ShortTexts, L"short-text utility", L"keySnippets", L"S&hort texts", L"", L"TS_ScratchPad\\TS_Snippets",
      L"TS_Snippets"},
     {Tool::EmailManager, L"e-mail manager", L"keyMailBox", L"&E-mail manager", L"", L"TS_MailBox", L"TS_MailBox"},
@@ -94,9 +126,11 @@ inline constexpr std::array<SuiteTool, static_cast<std::size_t>(Tool::Count)> kS
 
 inline constexpr std::wstring_view kSuiteFolder = L"C:\\Drive_G\\TellmarkSet\\";
 
-constexpr const SuiteTool& SuiteToolOf(Tool tool) { return kSuiteTools[static_cast<std::size_t>(tool)]; }
+constexpr const SuiteTool &SuiteToolOf(Tool tool) {
+    return kSuiteTools[static_cast<std::size_t>(tool)];
+}
 
 // The tool's built-in path, before it is resolved to where the suite really is.
 std::wstring BuiltInPath(Tool tool);
 
-}  // namespace orvane
+} // namespace orvane

@@ -14,4 +14,4 @@ std::wstring ClockTimeText(int hour, int minute);
 // Label3: "[ ss ]", for example "[ 03 ]".
 std::wstring ClockSecondsText(int second);
 
-}  // namespace orvane
+} // namespace orvane

@@ -18,7 +18,7 @@ public:
     virtual ~MainWindowRoutines() = default;
 
     // The shared input box: the text typed, or empty when cancelled.
-    virtual std::wstring inputBox(const std::wstring& prompt, const std::wstring& preset) = 0;
+    virtual std::wstring inputBox(const std::wstring &prompt, const std::wstring &preset) = 0;
     virtual void showAbout() = 0;
     virtual void showProgramLocations() = 0;
     virtual void showYourProgram() = 0;
@@ -27,7 +27,7 @@ public:
 
     // Layout, appearance and the windows of the later subsystems.
     virtual void useScreenWidth() = 0;
-    virtual void changeIconSize(int step) = 0;  // 1 larger, 2 smaller
+    virtual void changeIconSize(int step) = 0; // 1 larger, 2 smaller
     virtual void toggleIconStrip() = 0;
     virtual void toggleTopBottom() = 0;
     virtual void chooseSkin() = 0;
@@ -39,37 +39,38 @@ public:
 
 // The tool for a deadlines document: outlines (".vrt" in any case) open in the
 // outliner, anything else in the scratch pad.
-Tool DeadlinesTool(const std::wstring& document);
+Tool DeadlinesTool(const std::wstring &document);
 
 class MainCommands {
 public:
-    MainCommands(App& app, MainWindowRoutines& window) : app_(app), window_(window) {}
+    MainCommands(App &app, MainWindowRoutines &window) : app_(app), window_(window) {
+    }
 
     // Runs the command of the first row with this caption; false when none has it.
     bool dispatch(std::wstring_view caption);
-    void run(const DispatchRow& row);
+    void run(const DispatchRow &row);
     // A click on icon `index` of the strip, under the wait cursor.
     void runIcon(int index);
 
     // Starts a suite tool: resolved to where the suite is, then asked of the
     // shell with the main window as owner. Nothing is checked or reported here.
-    void launchSuiteTool(Tool tool, const std::wstring& parameters);
+    void launchSuiteTool(Tool tool, const std::wstring &parameters);
 
     // Passed to every start; true starts programs with the verb "runas".
     bool runAs = false;
 
 private:
-    bool executeForMainWindow(const std::wstring& file, const std::wstring& parameters);
+    bool executeForMainWindow(const std::wstring &file, const std::wstring &parameters);
     // The document a setting names, resolved; reported and nothing when it is missing.
-    std::optional<std::wstring> locateDocument(const std::wstring& storedName);
+    std::optional<std::wstring> locateDocument(const std::wstring &storedName);
     void loadDeadlines();
     void loadAddresses();
     void loadCustomBrowser();
     void openWebmail();
     void exploreCurrentFolder();
 
-    App& app_;
-    MainWindowRoutines& window_;
+    App &app_;
+    MainWindowRoutines &window_;
 };
 
-}  // namespace orvane
+} // namespace orvane

@@ -6,10 +6,14 @@ namespace orvane {
 
 namespace {
 
-constexpr DispatchRow Run(Tool tool) { return {SuiteToolOf(tool).caption, Command::SuiteTool, tool}; }
+constexpr DispatchRow Run(Tool tool) {
+    return {SuiteToolOf(tool).caption, Command::SuiteTool, tool};
+}
 // The file box's caption on the bar, and the running-programs tool's caption
 // that no item carries (so its row is never reached).
-constexpr DispatchRow RunByOtherCaption(Tool tool) { return {SuiteToolOf(tool).otherCaption, Command::SuiteTool, tool}; }
+constexpr DispatchRow RunByOtherCaption(Tool tool) {
+    return {SuiteToolOf(tool).otherCaption, Command::SuiteTool, tool};
+}
 
 using C = Command;
 
@@ -91,51 +95,44 @@ static_assert(kRows.size() == 72);
 
 // The row of a caption, found while compiling: a caption no row has does not compile.
 consteval DispatchRow Row(std::wstring_view caption) {
-    for (const DispatchRow& row : kRows)
-        if (row.caption == caption) return row;
+    for (const DispatchRow &row : kRows)
+        if (row.caption == caption)
+            return row;
     throw "no dispatch row has this caption";
 }
 
 constexpr auto kStrip = std::to_array<StripIcon>({
-    {Row(L"&Tellmark Set"), L"k20"},
-    {Row(L"&File manager"), L"k47"},
-    {Row(L"File &inspector"), L"k1"},
-    {Row(L"&Personal files"), L"k21"},
-    {Row(L"File &box"), L"k51"},
-    {Row(L"&Work&desk"), L"k36"},
-    {Row(L"&Goto desktop"), L"k48"},
-    {Row(L"&Windows Explorer"), L"k37"},
-    {Row(L"&Custom browser"), L"k40"},
-    {{Row(L"Web interface U&RL").caption, C::OpenWebmail}, L"k30"},
-    {Row(L"&Word"), L"k14"},
-    {Row(L"&Document editor"), L"k7"},
-    {Row(L"Text uti&lity"), L"k10"},
-    {Row(L"C&lipboard viewer"), L"k5"},
-    {Row(L"File fi&nder"), L"k2"},
-    {Row(L"&Text finder"), L"k3"},
-    {Row(L"&PDF viewer"), L"k13"},
-    {Row(L"&Outliner"), L"k12"},
-    {Row(L"E&xcel"), L"k16"},
-    {Row(L"&PowerPoint"), L"k15"},
-    {Row(L"&E-mail manager"), L"k49"},
-    {Row(L"Load Addr&esses file"), L"k27"},
-    {Row(L"T&o-do list"), L"k41"},
-    {Row(L"Load &Deadlines file"), L"k25"},
-    {Row(L"Di&ary"), L"k39"},
-    {Row(L"&Disk drives"), L"k4"},
+    {Row(L"&Tellmark Set"), L"k20"},   {Row(L"&File manager"), L"k47"},
+    {Row(L"File &inspector"), L"k1"},  {Row(L"&Personal files"), L"k21"},
+    {Row(L"File &box"), L"k51"},       {Row(L"&Work&desk"), L"k36"},
+    {Row(L"&Goto desktop"), L"k48"},   {Row(L"&Windows Explorer"), L"k37"},
+    {Row(L"&Custom browser"), L"k40"}, {{Row(L"Web interface U&RL").caption, C::OpenWebmail}, L"k30"},
+    {Row(L"&Word"), L"k14"},           {Row(L"&Document editor"), L"k7"},
+    {Row(L"Text uti&lity"), L"k10"},   {Row(L"C&lipboard viewer"), L"k5"},
+    {Row(L"File fi&nder"), L"k2"},     {Row(L"&Text finder"), L"k3"},
+    {Row(L"&PDF viewer"), L"k13"},     {Row(L"&Outliner"), L"k12"},
+    {Row(L"E&xcel"), L"k16"},          {Row(L"&PowerPoint"), L"k15"},
+    {Row(L"&E-mail manager"), L"k49"}, {Row(L"Load Addr&esses file"), L"k27"},
+    {Row(L"T&o-do list"), L"k41"},     {Row(L"Load &Deadlines file"), L"k25"},
+    {Row(L"Di&ary"), L"k39"},          {Row(L"&Disk drives"), L"k4"},
 });
 static_assert(kStrip.size() == 26);
 
-}  // namespace
+} // namespace
 
-std::span<const DispatchRow> DispatchRows() { return kRows; }
+std::span<const DispatchRow> DispatchRows() {
+    return kRows;
+}
 
-std::span<const StripIcon> StripIcons() { return kStrip; }
+std::span<const StripIcon> StripIcons() {
+    return kStrip;
+}
 
-const DispatchRow* FindDispatchRow(std::wstring_view caption, std::span<const DispatchRow> rows) {
-    for (const DispatchRow& row : rows)
-        if (row.caption == caption) return &row;
+const DispatchRow *FindDispatchRow(std::wstring_view caption, std::span<const DispatchRow> rows) {
+    for (const DispatchRow &row : rows)
+        if (row.caption == caption)
+            return &row;
     return nullptr;
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -12,19 +12,42 @@
 namespace orvane {
 
 enum class Command : std::uint8_t {
-    SuiteTool, WindowsExplorer, Exit,
-    Word, PowerPoint, Excel, Access, Publisher, ProgramLocations,
-    LoadDeadlines, GetDeadlines, LoadAddresses, GetAddresses,
-    About, CustomBrowser, GetCustomBrowser, WebmailUrl, YourProgram, ToggleDesktop,
-    ScreenWidth, IncreaseImageSize, DecreaseImageSize, ChangeSkin, MenuFont,
-    CustomPrograms, Wallpaper, WebList, TopBottom, Icons,
-    OpenWebmail,  // the stored address, without asking: the strip's alone
+    SuiteTool,
+    WindowsExplorer,
+    Exit,
+    Word,
+    PowerPoint,
+    Excel,
+    Access,
+    Publisher,
+    ProgramLocations,
+    LoadDeadlines,
+    GetDeadlines,
+    LoadAddresses,
+    GetAddresses,
+    About,
+    CustomBrowser,
+    GetCustomBrowser,
+    WebmailUrl,
+    YourProgram,
+    ToggleDesktop,
+    ScreenWidth,
+    IncreaseImageSize,
+    DecreaseImageSize,
+    ChangeSkin,
+    MenuFont,
+    CustomPrograms,
+    Wallpaper,
+    WebList,
+    TopBottom,
+    Icons,
+    OpenWebmail, // the stored address, without asking: the strip's alone
 };
 
 struct DispatchRow {
     std::wstring_view caption;
     Command command;
-    Tool tool = Tool::Count;  // the tool a SuiteTool row starts
+    Tool tool = Tool::Count; // the tool a SuiteTool row starts
 };
 
 std::span<const DispatchRow> DispatchRows();
@@ -40,6 +63,6 @@ struct StripIcon {
 std::span<const StripIcon> StripIcons();
 
 // The first row whose caption equals the given one; nothing when none does.
-const DispatchRow* FindDispatchRow(std::wstring_view caption, std::span<const DispatchRow> rows = DispatchRows());
+const DispatchRow *FindDispatchRow(std::wstring_view caption, std::span<const DispatchRow> rows = DispatchRows());
 
-}  // namespace orvane
+} // namespace orvane

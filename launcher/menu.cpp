@@ -10,7 +10,9 @@ namespace {
 
 using namespace keys;
 
-constexpr MenuRow Title(std::wstring_view key, std::wstring_view caption) { return {L"", key, caption, L"", None}; }
+constexpr MenuRow Title(std::wstring_view key, std::wstring_view caption) {
+    return {L"", key, caption, L"", None};
+}
 constexpr MenuRow Item(std::wstring_view parent, std::wstring_view key, std::wstring_view caption,
                        std::wstring_view icon, Shortcut shortcut) {
     return {parent, key, caption, icon, shortcut};
@@ -18,7 +20,9 @@ constexpr MenuRow Item(std::wstring_view parent, std::wstring_view key, std::wst
 constexpr MenuRow ToolItem(std::wstring_view parent, Tool tool, std::wstring_view icon, Shortcut shortcut) {
     return {parent, SuiteToolOf(tool).key, SuiteToolOf(tool).caption, icon, shortcut};
 }
-constexpr MenuRow Separator(std::wstring_view parent) { return {parent, L"", L"", L"", None}; }
+constexpr MenuRow Separator(std::wstring_view parent) {
+    return {parent, L"", L"", L"", None};
+}
 
 constexpr wchar_t kFile[] = L"keyFile", kEdit[] = L"keyEdit", kOffice[] = L"keyOffice", kUtil[] = L"keyUtil",
                   kGraph[] = L"keyGraph", kMisc[] = L"keyMisc";
@@ -120,43 +124,56 @@ constexpr auto kRows = std::to_array<MenuRow>({
     Title(L"keyDesk", L"Des&ktop"),
 });
 
-}  // namespace
+} // namespace
 
-std::span<const MenuRow> MainMenuRows() { return kRows; }
+std::span<const MenuRow> MainMenuRows() {
+    return kRows;
+}
 
 bool HasItems(std::span<const MenuRow> rows, std::wstring_view key) {
-    for (const MenuRow& row : rows)
-        if (row.parentKey == key && !key.empty()) return true;
+    for (const MenuRow &row : rows)
+        if (row.parentKey == key && !key.empty())
+            return true;
     return false;
 }
 
 wchar_t AccessLetter(std::wstring_view caption) {
     for (std::size_t at = caption.find(L'&'); at != std::wstring_view::npos && at + 1 < caption.size();
          at = caption.find(L'&', at + 2))
-        if (caption[at + 1] != L'&') return caption[at + 1];
+        if (caption[at + 1] != L'&')
+            return caption[at + 1];
     return 0;
 }
 
 std::wstring WithoutAccessMarks(std::wstring_view caption) {
     std::wstring text;
     for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == L'&' && (i + 1 == caption.size() || caption[i + 1] != L'&')) continue;
+        if (caption[i] == L'&' && (i + 1 == caption.size() || caption[i + 1] != L'&'))
+            continue;
         text += caption[i];
-        if (caption[i] == L'&') ++i;  // "&&" is one "&"
+        if (caption[i] == L'&')
+            ++i; // "&&" is one "&"
     }
     return text;
 }
 
 std::wstring ShortcutText(Shortcut shortcut) {
-    if (shortcut.key == 0) return {};
+    if (shortcut.key == 0)
+        return {};
     std::wstring text;
-    if (shortcut.modifiers & kCtrl) text += L"Ctrl+";
-    if (shortcut.modifiers & kAlt) text += L"Alt+";
-    if (shortcut.modifiers & kShift) text += L"Shift+";
-    if (shortcut.key >= F(1) && shortcut.key <= F(12)) return text + L"F" + std::to_wstring(shortcut.key - F(1) + 1);
-    if (shortcut.key == kInsert) return text + L"Insert";
-    if (shortcut.key == kDelete) return text + L"Delete";
+    if (shortcut.modifiers & kCtrl)
+        text += L"Ctrl+";
+    if (shortcut.modifiers & kAlt)
+        text += L"Alt+";
+    if (shortcut.modifiers & kShift)
+        text += L"Shift+";
+    if (shortcut.key >= F(1) && shortcut.key <= F(12))
+        return text + L"F" + std::to_wstring(shortcut.key - F(1) + 1);
+    if (shortcut.key == kInsert)
+        return text + L"Insert";
+    if (shortcut.key == kDelete)
+        return text + L"Delete";
     return text + static_cast<wchar_t>(shortcut.key);
 }
 
-}  // namespace orvane
+} // namespace orvane

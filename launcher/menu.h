@@ -17,32 +17,50 @@ inline constexpr std::uint16_t kAlt = 4;
 
 struct Shortcut {
     std::uint16_t modifiers = 0;
-    std::uint16_t key = 0;  // a virtual-key code: 65 to 90 for A to Z, 112 to 123 for F1 to F12; 0 for none
+    std::uint16_t key = 0; // a virtual-key code: 65 to 90 for A to Z, 112 to 123 for F1 to F12; 0 for none
 };
 
 // Writing shortcuts in menu tables: Ctrl(Key('S')), Shift(F(5)), Plain(kInsert).
 namespace keys {
-constexpr std::uint16_t Key(char letter) { return static_cast<std::uint16_t>(letter); }
-constexpr std::uint16_t F(int number) { return static_cast<std::uint16_t>(111 + number); }
+constexpr std::uint16_t Key(char letter) {
+    return static_cast<std::uint16_t>(letter);
+}
+constexpr std::uint16_t F(int number) {
+    return static_cast<std::uint16_t>(111 + number);
+}
 inline constexpr std::uint16_t kInsert = 0x2D, kDelete = 0x2E;
 
 inline constexpr Shortcut None{};
-constexpr Shortcut Plain(std::uint16_t key) { return {0, key}; }
-constexpr Shortcut Shift(std::uint16_t key) { return {kShift, key}; }
-constexpr Shortcut Ctrl(std::uint16_t key) { return {kCtrl, key}; }
-constexpr Shortcut Alt(std::uint16_t key) { return {kAlt, key}; }
-constexpr Shortcut CtrlShift(std::uint16_t key) { return {kCtrl | kShift, key}; }
-constexpr Shortcut CtrlAlt(std::uint16_t key) { return {kCtrl | kAlt, key}; }
-}  // namespace keys
+constexpr Shortcut Plain(std::uint16_t key) {
+    return {0, key};
+}
+constexpr Shortcut Shift(std::uint16_t key) {
+    return {kShift, key};
+}
+constexpr Shortcut Ctrl(std::uint16_t key) {
+    return {kCtrl, key};
+}
+constexpr Shortcut Alt(std::uint16_t key) {
+    return {kAlt, key};
+}
+constexpr Shortcut CtrlShift(std::uint16_t key) {
+    return {kCtrl | kShift, key};
+}
+constexpr Shortcut CtrlAlt(std::uint16_t key) {
+    return {kCtrl | kAlt, key};
+}
+} // namespace keys
 
 struct MenuRow {
-    std::wstring_view parentKey;  // empty for an item of the bar itself
-    std::wstring_view key;        // empty for a separator
-    std::wstring_view caption;    // "&" before the access letter; empty for a separator
-    std::wstring_view iconKey;    // "k1" to "k73"; empty for none
+    std::wstring_view parentKey; // empty for an item of the bar itself
+    std::wstring_view key;       // empty for a separator
+    std::wstring_view caption;   // "&" before the access letter; empty for a separator
+    std::wstring_view iconKey;   // "k1" to "k73"; empty for none
     Shortcut shortcut;
 
-    bool isSeparator() const { return key.empty() && caption.empty(); }
+    bool isSeparator() const {
+        return key.empty() && caption.empty();
+    }
 };
 
 std::span<const MenuRow> MainMenuRows();
@@ -60,14 +78,15 @@ std::wstring WithoutAccessMarks(std::wstring_view caption);
 // The command of the first row with this caption, from a table of commands
 // that runs parallel to the rows; null when no row has it.
 template <typename Command>
-const Command* CommandOfCaption(std::span<const MenuRow> rows, std::span<const Command> commands,
+const Command *CommandOfCaption(std::span<const MenuRow> rows, std::span<const Command> commands,
                                 std::wstring_view caption) {
     for (std::size_t i = 0; i < rows.size() && i < commands.size(); ++i)
-        if (rows[i].caption == caption) return &commands[i];
+        if (rows[i].caption == caption)
+            return &commands[i];
     return nullptr;
 }
 
 // The shortcut as Windows menus write it: "Ctrl+Shift+M", "Alt+F10", "F4"; empty for none.
 std::wstring ShortcutText(Shortcut shortcut);
 
-}  // namespace orvane
+} // namespace orvane

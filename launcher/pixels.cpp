@@ -12,7 +12,7 @@ std::vector<std::uint32_t> ScaleDown(std::span<const std::uint32_t> image, int s
     std::vector<std::uint32_t> result(static_cast<std::size_t>(newSize) * newSize);
     for (int y = 0; y < newSize; ++y) {
         for (int x = 0; x < newSize; ++x) {
-            double sum[4] = {}, area = 0;  // alpha-weighted red, green, blue; alpha
+            double sum[4] = {}, area = 0; // alpha-weighted red, green, blue; alpha
             const double top = y * ratio, bottom = top + ratio, left = x * ratio, right = left + ratio;
             for (int sy = int(top); sy < std::min(size, int(std::ceil(bottom))); ++sy) {
                 const double height = std::min<double>(sy + 1, bottom) - std::max<double>(sy, top);
@@ -20,7 +20,8 @@ std::vector<std::uint32_t> ScaleDown(std::span<const std::uint32_t> image, int s
                     const double weight = height * (std::min<double>(sx + 1, right) - std::max<double>(sx, left));
                     const std::uint32_t p = image[static_cast<std::size_t>(sy) * size + sx];
                     const double alpha = (p >> 24) * weight;
-                    for (int c = 0; c < 3; ++c) sum[c] += ((p >> (16 - 8 * c)) & 0xFF) * alpha;
+                    for (int c = 0; c < 3; ++c)
+                        sum[c] += ((p >> (16 - 8 * c)) & 0xFF) * alpha;
                     sum[3] += alpha;
                     area += weight;
                 }
@@ -34,4 +35,4 @@ std::vector<std::uint32_t> ScaleDown(std::span<const std::uint32_t> image, int s
     return result;
 }
 
-}  // namespace orvane
+} // namespace orvane

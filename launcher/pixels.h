@@ -13,4 +13,4 @@ namespace orvane {
 // to the edges. A newSize not below size returns the image as it is.
 std::vector<std::uint32_t> ScaleDown(std::span<const std::uint32_t> image, int size, int newSize);
 
-}  // namespace orvane
+} // namespace orvane

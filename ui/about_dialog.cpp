@@ -17,25 +17,27 @@ constexpr wchar_t kHomePage[] = L"https://orvane.example/";
 
 std::wstring ProductVersion() {
     HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(VS_VERSION_INFO), MAKEINTRESOURCEW(16));
-    if (!found) return {};
-    const auto* data = static_cast<const char*>(LockResource(LoadResource(nullptr, found)));
-    std::vector<char> copy(data, data + SizeofResource(nullptr, found));  // the query wants writable memory
+    if (!found)
+        return {};
+    const auto *data = static_cast<const char *>(LockResource(LoadResource(nullptr, found)));
+    std::vector<char> copy(data, data + SizeofResource(nullptr, found)); // the query wants writable memory
     // The version library is needed here only, so it is loaded here only.
-    using QueryFn = BOOL(WINAPI*)(const void*, const wchar_t*, void**, UINT*);
+    using QueryFn = BOOL(WINAPI *)(const void *, const wchar_t *, void **, UINT *);
     static const UniqueModule library(LoadLibraryW(L"version.dll"));
     static const auto query =
-        reinterpret_cast<QueryFn>(reinterpret_cast<void*>(GetProcAddress(library.get(), "VerQueryValueW")));
-    wchar_t* text = nullptr;
+        reinterpret_cast<QueryFn>(reinterpret_cast<void *>(GetProcAddress(library.get(), "VerQueryValueW")));
+    wchar_t *text = nullptr;
     UINT length = 0;
-    if (!query || !query(copy.data(), L"\\StringFileInfo\\040904B0\\ProductVersion", reinterpret_cast<void**>(&text),
-                        &length))
+    if (!query ||
+        !query(copy.data(), L"\\StringFileInfo\\040904B0\\ProductVersion", reinterpret_cast<void **>(&text), &length))
         return {};
     return std::wstring(text, length ? length - 1 : 0);
 }
 
 class AboutDialog : public ModalDialog {
 public:
-    AboutDialog(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
+    AboutDialog(App &app, Skin &skin) : ModalDialog(skin), app_(app) {
+    }
 
 private:
     void onInit() override {
@@ -47,16 +49,20 @@ private:
         SetFocus(GetDlgItem(hwnd(), IDOK));
     }
     void onCommand(int id, int code) override {
-        if (id == IDC_ABOUT_PICTURE) LoadCustomBrowser(app_, kHomePage);
-        else ModalDialog::onCommand(id, code);
+        if (id == IDC_ABOUT_PICTURE)
+            LoadCustomBrowser(app_, kHomePage);
+        else
+            ModalDialog::onCommand(id, code);
     }
 
-    App& app_;
+    App &app_;
     UniqueIcon icon_;
 };
 
-}  // namespace
+} // namespace
 
-void ShowAboutDialog(App& app, Skin& skin, HWND owner) { AboutDialog(app, skin).show(owner, IDD_ABOUT); }
+void ShowAboutDialog(App &app, Skin &skin, HWND owner) {
+    AboutDialog(app, skin).show(owner, IDD_ABOUT);
+}
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

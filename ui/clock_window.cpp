@@ -40,7 +40,8 @@ UniqueFont LabelFont(HWND dialog, int points, LONG weight) {
 
 class ClockWindow : public ModalDialog {
 public:
-    explicit ClockWindow(Skin& skin) : ModalDialog(skin) {}
+    explicit ClockWindow(Skin &skin) : ModalDialog(skin) {
+    }
 
 private:
     void onInit() override {
@@ -69,15 +70,18 @@ private:
     }
 
     // A key (from the catcher), a click on a label, OK, Cancel or the close box.
-    void onCommand(int, int) override { end(IDOK); }
+    void onCommand(int, int) override {
+        end(IDOK);
+    }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM) override {
         switch (message) {
         case WM_TIMER:
-            if (wParam == kTimer) tick();
+            if (wParam == kTimer)
+                tick();
             return TRUE;
-        case WM_LBUTTONDOWN:    // a click on the window
-        case WM_CONTEXTMENU:    // a right click, on the window or a label
+        case WM_LBUTTONDOWN: // a click on the window
+        case WM_CONTEXTMENU: // a right click, on the window or a label
             end(IDOK);
             return TRUE;
         case WM_DESTROY:
@@ -90,9 +94,9 @@ private:
     UniqueFont timeFont_, secondsFont_;
 };
 
-}  // namespace
+} // namespace
 
-void ShowClockWindow(Skin& skin, HWND owner) {
+void ShowClockWindow(Skin &skin, HWND owner) {
     static const ATOM catcher = [] {
         WNDCLASSW type{};
         type.lpfnWndProc = KeyCatcher;
@@ -100,7 +104,8 @@ void ShowClockWindow(Skin& skin, HWND owner) {
         type.lpszClassName = L"OrvaneClockKeys";
         return RegisterClassW(&type);
     }();
-    if (catcher) ClockWindow(skin).show(owner, IDD_CLOCK);
+    if (catcher)
+        ClockWindow(skin).show(owner, IDD_CLOCK);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -5,15 +5,15 @@
 
 namespace orvane::ui {
 
-void ListView::insertColumn(int column, const wchar_t* title, int width) const {
+void ListView::insertColumn(int column, const wchar_t *title, int width) const {
     LVCOLUMNW c{};
     c.mask = LVCF_TEXT | LVCF_WIDTH;
-    c.pszText = const_cast<wchar_t*>(title);
+    c.pszText = const_cast<wchar_t *>(title);
     c.cx = width;
     ListView_InsertColumn(window_, column, &c);
 }
 
-void ListView::insertItem(int row, wchar_t* text) const {
+void ListView::insertItem(int row, wchar_t *text) const {
     LVITEMW item{};
     item.mask = LVIF_TEXT;
     item.iItem = row;
@@ -27,7 +27,7 @@ RECT ListView::cellRect(int row, int column) const {
     return rect;
 }
 
-int ListView::hitTest(POINT point, LVHITTESTINFO& hit) const {
+int ListView::hitTest(POINT point, LVHITTESTINFO &hit) const {
     hit.pt = point;
     return ListView_SubItemHitTest(window_, &hit);
 }
@@ -39,7 +39,7 @@ std::wstring ListBox::text(int index) const {
     return text;
 }
 
-int ListBox::findExact(const std::wstring& text) const {
+int ListBox::findExact(const std::wstring &text) const {
     return static_cast<int>(
         SendMessageW(window_, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str())));
 }
@@ -48,9 +48,8 @@ void FieldKeys::attach(HWND field) {
     SetWindowSubclass(field, &FieldKeys::Subclass, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
-LRESULT CALLBACK FieldKeys::Subclass(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                     DWORD_PTR data) {
-    auto* self = reinterpret_cast<FieldKeys*>(data);
+LRESULT CALLBACK FieldKeys::Subclass(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+    auto *self = reinterpret_cast<FieldKeys *>(data);
     switch (message) {
     case WM_GETDLGCODE:
         if (std::find(self->kept_.begin(), self->kept_.end(), wParam) != self->kept_.end())
@@ -76,4 +75,4 @@ LRESULT CALLBACK FieldKeys::Subclass(HWND field, UINT message, WPARAM wParam, LP
     return DefSubclassProc(field, message, wParam, lParam);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -26,12 +26,17 @@ constexpr UINT kActivated = WM_APP + 1;
 
 class CustomProgramsWindow : public ModalDialog {
 public:
-    CustomProgramsWindow(App& app, Skin& skin, CustomProgramTable& table, MainCommands& commands)
-        : ModalDialog(skin), app_(app), table_(table), commands_(commands) {}
+    CustomProgramsWindow(App &app, Skin &skin, CustomProgramTable &table, MainCommands &commands)
+        : ModalDialog(skin), app_(app), table_(table), commands_(commands) {
+    }
 
 private:
-    ProgramGrid& grid(int number) { return grids_[static_cast<std::size_t>(number - 1)]; }
-    int scaled(int pixels) const { return ScaledForWindow(pixels, hwnd()); }
+    ProgramGrid &grid(int number) {
+        return grids_[static_cast<std::size_t>(number - 1)];
+    }
+    int scaled(int pixels) const {
+        return ScaledForWindow(pixels, hwnd());
+    }
 
     void onInit() override {
         app_.CurrentProgramPath.clear();
@@ -45,9 +50,9 @@ private:
         const auto font = static_cast<WPARAM>(SendMessageW(hwnd(), WM_GETFONT, 0, 0));
         for (std::size_t i = 0; i < GridButtons().size(); ++i) {
             const std::wstring caption(GridButtons()[i].caption);
-            HWND button = CreateWindowExW(0, L"BUTTON", caption.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON,
-                                          0, 0, 0, 0, hwnd(), reinterpret_cast<HMENU>(IDC_FIRST_GRID_BUTTON + i),
-                                          GetModuleHandleW(nullptr), nullptr);
+            HWND button = CreateWindowExW(
+                0, L"BUTTON", caption.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0, hwnd(),
+                reinterpret_cast<HMENU>(IDC_FIRST_GRID_BUTTON + i), GetModuleHandleW(nullptr), nullptr);
             SendMessageW(button, WM_SETFONT, font, FALSE);
         }
         layout();
@@ -56,11 +61,13 @@ private:
 
     // Where the window was left, when that is still on a screen.
     void placeFromSettings() {
-        const Settings& s = app_.settings;
-        if (s.CustomWidth <= 0 || s.CustomHeight <= 0) return;
+        const Settings &s = app_.settings;
+        if (s.CustomWidth <= 0 || s.CustomHeight <= 0)
+            return;
         const UINT dpi = WindowDpi(hwnd());
         const RECT r{TwipsToPixels(s.CustomLeft, dpi), TwipsToPixels(s.CustomTop, dpi),
-                     TwipsToPixels(s.CustomLeft + s.CustomWidth, dpi), TwipsToPixels(s.CustomTop + s.CustomHeight, dpi)};
+                     TwipsToPixels(s.CustomLeft + s.CustomWidth, dpi),
+                     TwipsToPixels(s.CustomTop + s.CustomHeight, dpi)};
         const bool onScreen = MonitorFromRect(&r, MONITOR_DEFAULTTONULL) != nullptr;
         SetWindowPos(hwnd(), nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
                      SWP_NOZORDER | SWP_NOACTIVATE | (onScreen ? 0 : SWP_NOMOVE));
@@ -68,7 +75,8 @@ private:
 
     // The grids side by side above the buttons, which wrap into as many rows as they need.
     void layout() {
-        if (!grid(1).hwnd()) return;
+        if (!grid(1).hwnd())
+            return;
         RECT client{};
         GetClientRect(hwnd(), &client);
         const int margin = scaled(8), gap = scaled(4), width = scaled(92), height = scaled(26);
@@ -86,7 +94,8 @@ private:
 
     void fillGrids() {
         const int rows[] = {grid(1).currentRow(), grid(2).currentRow()};
-        for (int number : {1, 2}) grid(number).fill(table_, GridEntries(table_, number));
+        for (int number : {1, 2})
+            grid(number).fill(table_, GridEntries(table_, number));
         for (int number : {1, 2}) {
             const int restored = loaded_ ? rows[number - 1]
                                          : (number == 1 ? app_.settings.CustomGrid1Row : app_.settings.CustomGrid2Row);
@@ -113,7 +122,8 @@ private:
 
     void launch() {
         const int row = grid(active_).currentRow();
-        if (row >= 0) LaunchEntry(app_, table_, grid(active_).entryOf(row));
+        if (row >= 0)
+            LaunchEntry(app_, table_, grid(active_).entryOf(row));
     }
 
     void editList() {
@@ -124,35 +134,48 @@ private:
     }
 
     void showPopup(HWND from, LPARAM where) {
-        if (from == grid(2).hwnd()) active_ = 2;
-        if (from == grid(1).hwnd()) active_ = 1;
+        if (from == grid(2).hwnd())
+            active_ = 2;
+        if (from == grid(1).hwnd())
+            active_ = 1;
         POINT at{static_cast<short>(LOWORD(where)), static_cast<short>(HIWORD(where))};
-        if (where == -1) {  // from the keyboard: at the current row
+        if (where == -1) { // from the keyboard: at the current row
             RECT row{};
             const ListView list(grid(active_).hwnd());
-            if (!list.rowRect(std::max(0, grid(active_).currentRow()), row)) GetClientRect(list, &row);
+            if (!list.rowRect(std::max(0, grid(active_).currentRow()), row))
+                GetClientRect(list, &row);
             at = {row.left + scaled(16), row.bottom};
             ClientToScreen(list, &at);
         }
         popup_.setColours(hwnd(), skin().menuColours());
         const auto command = FindGridMenuCommand(popup_.popup(hwnd(), at));
-        if (!command) return;
+        if (!command)
+            return;
         switch (*command) {
-        case GridMenuCommand::Close: close(); break;
-        case GridMenuCommand::Info: ShowFileInformation(app_, skin(), hwnd(), app_.settings.CustomListFile); break;
-        case GridMenuCommand::EditList: editList(); break;
-        case GridMenuCommand::LoadProgram: launch(); break;
+        case GridMenuCommand::Close:
+            close();
+            break;
+        case GridMenuCommand::Info:
+            ShowFileInformation(app_, skin(), hwnd(), app_.settings.CustomListFile);
+            break;
+        case GridMenuCommand::EditList:
+            editList();
+            break;
+        case GridMenuCommand::LoadProgram:
+            launch();
+            break;
         }
     }
 
     // Every way of closing keeps the window's place and its current rows.
     void close() {
-        Settings& s = app_.settings;
+        Settings &s = app_.settings;
         WINDOWPLACEMENT placement{};
         placement.length = sizeof placement;
         GetWindowPlacement(hwnd(), &placement);
         RECT r = placement.rcNormalPosition;
-        if (!IsIconic(hwnd()) && !IsZoomed(hwnd())) GetWindowRect(hwnd(), &r);
+        if (!IsIconic(hwnd()) && !IsZoomed(hwnd()))
+            GetWindowRect(hwnd(), &r);
         const UINT dpi = WindowDpi(hwnd());
         s.CustomTop = PixelsToTwips(r.top, dpi);
         s.CustomLeft = PixelsToTwips(r.left, dpi);
@@ -164,40 +187,61 @@ private:
     }
 
     void onCommand(int id, int code) override {
-        if (id == IDOK) return launch();  // Enter on a grid
-        if (id == IDCANCEL) return close();
+        if (id == IDOK)
+            return launch(); // Enter on a grid
+        if (id == IDCANCEL)
+            return close();
         const std::size_t index = static_cast<std::size_t>(id - IDC_FIRST_GRID_BUTTON);
-        if (id < IDC_FIRST_GRID_BUTTON || index >= GridButtons().size() || code != BN_CLICKED) return;
-        const GridButton& button = GridButtons()[index];
+        if (id < IDC_FIRST_GRID_BUTTON || index >= GridButtons().size() || code != BN_CLICKED)
+            return;
+        const GridButton &button = GridButtons()[index];
         switch (button.action) {
-        case GridButtonAction::MainCommand: commands_.run(button.row); break;
-        case GridButtonAction::Deadlines: LoadDeadlinesWithArgument(app_); break;
-        case GridButtonAction::Clock: ShowClockWindow(skin(), hwnd()); break;
-        case GridButtonAction::FirstGrid: focusGrid(1); break;
-        case GridButtonAction::SecondGrid: focusGrid(2); break;
-        case GridButtonAction::Exit: close(); break;
+        case GridButtonAction::MainCommand:
+            commands_.run(button.row);
+            break;
+        case GridButtonAction::Deadlines:
+            LoadDeadlinesWithArgument(app_);
+            break;
+        case GridButtonAction::Clock:
+            ShowClockWindow(skin(), hwnd());
+            break;
+        case GridButtonAction::FirstGrid:
+            focusGrid(1);
+            break;
+        case GridButtonAction::SecondGrid:
+            focusGrid(2);
+            break;
+        case GridButtonAction::Exit:
+            close();
+            break;
         }
     }
 
-    INT_PTR notify(const NMHDR& header) {
+    INT_PTR notify(const NMHDR &header) {
         const int number = header.idFrom == IDC_GRID1 ? 1 : header.idFrom == IDC_GRID2 ? 2 : 0;
-        if (!number) return FALSE;
+        if (!number)
+            return FALSE;
         switch (header.code) {
         case NM_CUSTOMDRAW:
-            SetWindowLongPtrW(hwnd(), DWLP_MSGRESULT,
-                              grid(number).customDraw(*reinterpret_cast<NMLVCUSTOMDRAW*>(const_cast<NMHDR*>(&header))));
+            SetWindowLongPtrW(
+                hwnd(), DWLP_MSGRESULT,
+                grid(number).customDraw(*reinterpret_cast<NMLVCUSTOMDRAW *>(const_cast<NMHDR *>(&header))));
             return TRUE;
         case NM_SETFOCUS:
-        case NM_CLICK: active_ = number; break;
+        case NM_CLICK:
+            active_ = number;
+            break;
         case NM_DBLCLK:
             active_ = number;
             launch();
             break;
         case LVN_KEYDOWN: {
             // Right goes to the second grid, Left back to the first.
-            const WORD key = reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey;
-            if (number == 1 && key == VK_RIGHT) focusGrid(2);
-            if (number == 2 && key == VK_LEFT) focusGrid(1);
+            const WORD key = reinterpret_cast<const NMLVKEYDOWN &>(header).wVKey;
+            if (number == 1 && key == VK_RIGHT)
+                focusGrid(2);
+            if (number == 2 && key == VK_LEFT)
+                focusGrid(1);
             break;
         }
         }
@@ -205,26 +249,35 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (popup_.dialogMessage(hwnd(), skin(), message, wParam, lParam)) return TRUE;
+        if (popup_.dialogMessage(hwnd(), skin(), message, wParam, lParam))
+            return TRUE;
         switch (message) {
-        case kActivated: activated(); return TRUE;
+        case kActivated:
+            activated();
+            return TRUE;
         case WM_ACTIVATE:
-            if (LOWORD(wParam) != WA_INACTIVE && loaded_) PostMessageW(hwnd(), kActivated, 0, 0);
+            if (LOWORD(wParam) != WA_INACTIVE && loaded_)
+                PostMessageW(hwnd(), kActivated, 0, 0);
             return FALSE;
         case WM_SIZE:
-        case WM_DPICHANGED: layout(); return FALSE;
+        case WM_DPICHANGED:
+            layout();
+            return FALSE;
         case WM_GETMINMAXINFO:
-            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {scaled(360), scaled(300)};
+            reinterpret_cast<MINMAXINFO *>(lParam)->ptMinTrackSize = {scaled(360), scaled(300)};
             return TRUE;
-        case WM_NOTIFY: return notify(*reinterpret_cast<const NMHDR*>(lParam));
-        case WM_CONTEXTMENU: showPopup(reinterpret_cast<HWND>(wParam), lParam); return TRUE;
+        case WM_NOTIFY:
+            return notify(*reinterpret_cast<const NMHDR *>(lParam));
+        case WM_CONTEXTMENU:
+            showPopup(reinterpret_cast<HWND>(wParam), lParam);
+            return TRUE;
         }
         return FALSE;
     }
 
-    App& app_;
-    CustomProgramTable& table_;
-    MainCommands& commands_;
+    App &app_;
+    CustomProgramTable &table_;
+    MainCommands &commands_;
     std::array<ProgramGrid, 2> grids_;
     GridPointer pointer_;
     UniqueIcon hand_;
@@ -233,10 +286,10 @@ private:
     bool loaded_ = false;
 };
 
-}  // namespace
+} // namespace
 
-void ShowCustomPrograms(App& app, Skin& skin, CustomProgramTable& table, MainCommands& commands, HWND owner) {
+void ShowCustomPrograms(App &app, Skin &skin, CustomProgramTable &table, MainCommands &commands, HWND owner) {
     CustomProgramsWindow(app, skin, table, commands).show(owner, IDD_CUSTOM_PROGRAMS);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

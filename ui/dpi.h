@@ -20,7 +20,11 @@ inline constexpr UINT kDpiChangedAfterParent = 0x02E3;
 inline int ScaledForWindow(int pixelsAt96, HWND window) {
     return MulDiv(pixelsAt96, static_cast<int>(WindowDpi(window)), 96);
 }
-inline int TwipsToPixels(int twips, UINT dpi) { return MulDiv(twips, static_cast<int>(dpi), kTwipsPerInch); }
-inline int PixelsToTwips(int pixels, UINT dpi) { return MulDiv(pixels, kTwipsPerInch, static_cast<int>(dpi)); }
+inline int TwipsToPixels(int twips, UINT dpi) {
+    return MulDiv(twips, static_cast<int>(dpi), kTwipsPerInch);
+}
+inline int PixelsToTwips(int pixels, UINT dpi) {
+    return MulDiv(pixels, kTwipsPerInch, static_cast<int>(dpi));
+}
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

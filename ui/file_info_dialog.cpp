@@ -18,8 +18,9 @@ namespace {
 
 class FileInfoDialog : public ModalDialog {
 public:
-    FileInfoDialog(App& app, Skin& skin, const std::wstring& path, const FileInformation& info)
-        : ModalDialog(skin), app_(app), path_(path), info_(info) {}
+    FileInfoDialog(App &app, Skin &skin, const std::wstring &path, const FileInformation &info)
+        : ModalDialog(skin), app_(app), path_(path), info_(info) {
+    }
 
 private:
     void onInit() override {
@@ -34,7 +35,9 @@ private:
 
     void onCommand(int id, int code) override {
         switch (id) {
-        case IDC_INFO_CLIP: CopyInformation(app_, info_); return;
+        case IDC_INFO_CLIP:
+            CopyInformation(app_, info_);
+            return;
         case IDC_INFO_PROPERTIES: {
             // The properties sheet is a verb of the item itself, not of its file type.
             SHELLEXECUTEINFOW request{};
@@ -59,21 +62,21 @@ private:
         ModalDialog::onCommand(id, code);
     }
 
-    App& app_;
+    App &app_;
     std::wstring path_;
     FileInformation info_;
 };
 
-}  // namespace
+} // namespace
 
-void ShowFileInformation(App& app, Skin& skin, HWND owner, const std::wstring& path) {
+void ShowFileInformation(App &app, Skin &skin, HWND owner, const std::wstring &path) {
     ShowFileInformation(app, skin, owner, path, InformationOf(app, path));
 }
 
-void ShowFileInformation(App& app, Skin& skin, HWND owner, const std::wstring& path, const FileInformation& info) {
+void ShowFileInformation(App &app, Skin &skin, HWND owner, const std::wstring &path, const FileInformation &info) {
     FileInfoDialog dialog(app, skin, path, info);
     dialog.centreOver(ToHwnd(app.MainWindowRef));
     dialog.show(owner, IDD_FILE_INFO);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -18,19 +18,22 @@ namespace {
 
 // The sizes the icon resources hold.
 constexpr int kStoredSizes[] = {16, 20, 24, 32, 48, 64, 96};
-constexpr int kHotMargin = 3;  // the highlight around an icon, in pixels at 96 DPI
+constexpr int kHotMargin = 3; // the highlight around an icon, in pixels at 96 DPI
 
 std::vector<std::uint32_t> IconPixels(HICON icon, int size) {
     ICONINFO info{};
-    if (!icon || !GetIconInfo(icon, &info)) return {};
+    if (!icon || !GetIconInfo(icon, &info))
+        return {};
     UniqueBitmap colour(info.hbmColor), mask(info.hbmMask);
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size) * size);
     BITMAPINFO format{};
     format.bmiHeader = {sizeof format.bmiHeader, size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     HDC dc = GetDC(nullptr);
-    const int rows = colour ? GetDIBits(dc, colour.get(), 0, static_cast<UINT>(size), pixels.data(), &format, DIB_RGB_COLORS) : 0;
+    const int rows =
+        colour ? GetDIBits(dc, colour.get(), 0, static_cast<UINT>(size), pixels.data(), &format, DIB_RGB_COLORS) : 0;
     ReleaseDC(nullptr, dc);
-    if (rows != size) return {};
+    if (rows != size)
+        return {};
     return pixels;
 }
 
@@ -39,18 +42,22 @@ std::vector<std::uint32_t> IconPixels(HICON icon, int size) {
 std::vector<std::uint32_t> StoredPixels(int resourceId, int size) {
     const HMODULE module = GetModuleHandleW(nullptr);
     const HRSRC group = FindResourceW(module, MAKEINTRESOURCEW(resourceId), RT_GROUP_ICON);
-    const auto directory = group ? static_cast<BYTE*>(LockResource(LoadResource(module, group))) : nullptr;
+    const auto directory = group ? static_cast<BYTE *>(LockResource(LoadResource(module, group))) : nullptr;
     const int id = directory ? LookupIconIdFromDirectoryEx(directory, TRUE, size, size, LR_DEFAULTCOLOR) : 0;
     const HRSRC entry = id ? FindResourceW(module, MAKEINTRESOURCEW(id), RT_ICON) : nullptr;
-    const auto header = entry ? static_cast<const BITMAPINFOHEADER*>(LockResource(LoadResource(module, entry))) : nullptr;
-    if (header && SizeofResource(module, entry) >= sizeof *header + 4u * size * size && header->biSize == sizeof *header &&
-        header->biBitCount == 32 && header->biWidth == size && header->biHeight == 2 * size) {
-        const auto rows = reinterpret_cast<const std::uint32_t*>(header + 1);  // bottom row first
+    const auto header =
+        entry ? static_cast<const BITMAPINFOHEADER *>(LockResource(LoadResource(module, entry))) : nullptr;
+    if (header && SizeofResource(module, entry) >= sizeof *header + 4u * size * size &&
+        header->biSize == sizeof *header && header->biBitCount == 32 && header->biWidth == size &&
+        header->biHeight == 2 * size) {
+        const auto rows = reinterpret_cast<const std::uint32_t *>(header + 1); // bottom row first
         std::vector<std::uint32_t> pixels;
-        for (int y = size - 1; y >= 0; --y) pixels.insert(pixels.end(), rows + y * size, rows + (y + 1) * size);
+        for (int y = size - 1; y >= 0; --y)
+            pixels.insert(pixels.end(), rows + y * size, rows + (y + 1) * size);
         return pixels;
     }
-    const UniqueIcon icon(static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(resourceId), IMAGE_ICON, size, size, 0)));
+    const UniqueIcon icon(
+        static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(resourceId), IMAGE_ICON, size, size, 0)));
     return IconPixels(icon.get(), size);
 }
 
@@ -58,11 +65,12 @@ std::vector<std::uint32_t> StoredPixels(int resourceId, int size) {
 // down, so it stays sharp at every DPI.
 std::vector<std::uint32_t> PixelsAtSize(int resourceId, int size) {
     for (const int stored : kStoredSizes)
-        if (stored >= size) return ScaleDown(StoredPixels(resourceId, stored), stored, size);
-    return StoredPixels(resourceId, size);  // larger than any: the system stretches the largest
+        if (stored >= size)
+            return ScaleDown(StoredPixels(resourceId, stored), stored, size);
+    return StoredPixels(resourceId, size); // larger than any: the system stretches the largest
 }
 
-}  // namespace
+} // namespace
 
 bool IconStrip::create(HWND parent) {
     WNDCLASSEXW wc{};
@@ -91,13 +99,14 @@ void IconStrip::focus(int index) {
 // copy's hand-over walks.
 void IconStrip::showTooltips(bool shown) {
     if (!shown || tooltip_) {
-        if (!shown) tooltip_.reset();
+        if (!shown)
+            tooltip_.reset();
         return;
     }
     TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, hwnd(), 0};
     TrackMouseEvent(&track);
-    tooltip_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                                   0, 0, 0, 0, hwnd(), nullptr, GetModuleHandleW(nullptr), nullptr));
+    tooltip_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0,
+                                   0, 0, 0, hwnd(), nullptr, GetModuleHandleW(nullptr), nullptr));
     const auto icons = StripIcons();
     for (int i = 0; i < kIconCount; ++i) {
         const std::wstring tip = WithoutAccessMarks(icons[static_cast<std::size_t>(i)].row.caption);
@@ -107,43 +116,49 @@ void IconStrip::showTooltips(bool shown) {
         tool.hwnd = hwnd();
         tool.uId = static_cast<UINT_PTR>(i);
         tool.rect = iconRect(i);
-        tool.lpszText = const_cast<wchar_t*>(tip.c_str());  // copied by the tooltip
+        tool.lpszText = const_cast<wchar_t *>(tip.c_str()); // copied by the tooltip
         SendMessageW(tooltip_.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
 }
 
-void IconStrip::place(const RECT& strip, const std::array<int, kIconCount>& iconLeft, int iconSize) {
+void IconStrip::place(const RECT &strip, const std::array<int, kIconCount> &iconLeft, int iconSize) {
     iconLeft_ = iconLeft;
     iconSize_ = iconSize;
     SetWindowPos(hwnd(), nullptr, strip.left, strip.top, strip.right - strip.left, strip.bottom - strip.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    showTooltips(false);  // made anew, with the new places, when the mouse comes back
+    showTooltips(false); // made anew, with the new places, when the mouse comes back
     InvalidateRect(hwnd(), nullptr, TRUE);
 }
 
 void IconStrip::loadIcons() {
-    if (loadedSize_ == iconSize_) return;
+    if (loadedSize_ == iconSize_)
+        return;
     loadedSize_ = iconSize_;
     sheetDc_.reset();
     sheet_.reset();
     const int size = iconSize_;
-    if (size <= 0) return;
+    if (size <= 0)
+        return;
     BITMAPINFO format{};
     format.bmiHeader = {sizeof format.bmiHeader, size * kIconCount, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
+    void *bits = nullptr;
     sheet_.reset(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (!sheet_) return;
-    const auto sheet = static_cast<std::uint32_t*>(bits);
+    if (!sheet_)
+        return;
+    const auto sheet = static_cast<std::uint32_t *>(bits);
     const auto icons = StripIcons();
     for (int i = 0; i < kIconCount; ++i) {
         const std::wstring_view key = icons[static_cast<std::size_t>(i)].iconKey;
         const auto pixels = PixelsAtSize(kFirstMenuIcon + _wtoi(std::wstring(key.substr(1)).c_str()), size);
-        if (pixels.size() != static_cast<std::size_t>(size) * size) continue;
+        if (pixels.size() != static_cast<std::size_t>(size) * size)
+            continue;
         for (int y = 0; y < size; ++y)
             for (int x = 0; x < size; ++x) {
                 // Premultiplied, as blending asks.
                 const std::uint32_t p = pixels[static_cast<std::size_t>(y) * size + x], alpha = p >> 24;
-                const auto channel = [&](int shift) { return ((p >> shift & 0xFF) * alpha + 127) / 255 << shift; };
+                const auto channel = [&](int shift) {
+                    return ((p >> shift & 0xFF) * alpha + 127) / 255 << shift;
+                };
                 sheet[static_cast<std::size_t>(y) * size * kIconCount + i * size + x] =
                     alpha << 24 | channel(16) | channel(8) | channel(0);
             }
@@ -163,13 +178,15 @@ RECT IconStrip::iconRect(int index) const {
 int IconStrip::iconAt(POINT point) const {
     for (int i = 0; i < kIconCount; ++i) {
         const RECT r = iconRect(i);
-        if (PtInRect(&r, point)) return i;
+        if (PtInRect(&r, point))
+            return i;
     }
     return -1;
 }
 
 void IconStrip::setHot(int index) {
-    if (hot_ == index) return;
+    if (hot_ == index)
+        return;
     hot_ = index;
     InvalidateRect(hwnd(), nullptr, TRUE);
 }
@@ -189,7 +206,8 @@ void IconStrip::paint(HDC dc) {
         }
         if (sheetDc_) {
             const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-            GdiAlphaBlend(dc, r.left, r.top, iconSize_, iconSize_, sheetDc_.get(), i * iconSize_, 0, iconSize_, iconSize_, blend);
+            GdiAlphaBlend(dc, r.left, r.top, iconSize_, iconSize_, sheetDc_.get(), i * iconSize_, 0, iconSize_,
+                          iconSize_, blend);
         }
     }
 }
@@ -200,7 +218,7 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         // The skin's tiles run on from the bar behind the strip.
         RECT place{};
         GetWindowRect(hwnd(), &place);
-        MapWindowPoints(nullptr, GetParent(hwnd()), reinterpret_cast<POINT*>(&place), 1);
+        MapWindowPoints(nullptr, GetParent(hwnd()), reinterpret_cast<POINT *>(&place), 1);
         SetBrushOrgEx(reinterpret_cast<HDC>(wParam), -place.left, -place.top, nullptr);
         skin_.paintBackground(hwnd(), reinterpret_cast<HDC>(wParam));
         return TRUE;
@@ -231,7 +249,8 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDBLCLK:
         pressed_ = iconAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
         keyboardCues_ = false;
-        if (pressed_ >= 0) SetCapture(hwnd());
+        if (pressed_ >= 0)
+            SetCapture(hwnd());
         return 0;
     case WM_LBUTTONUP: {
         // A click runs when the button comes up on the icon it went down on.
@@ -249,13 +268,24 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         keyboardCues_ = true;
         int next = focused_;
         switch (wParam) {
-        case VK_LEFT: next = std::max(0, focused_ - 1); break;
-        case VK_RIGHT: next = std::min(kIconCount - 1, focused_ + 1); break;
-        case VK_HOME: next = 0; break;
-        case VK_END: next = kIconCount - 1; break;
+        case VK_LEFT:
+            next = std::max(0, focused_ - 1);
+            break;
+        case VK_RIGHT:
+            next = std::min(kIconCount - 1, focused_ + 1);
+            break;
+        case VK_HOME:
+            next = 0;
+            break;
+        case VK_END:
+            next = kIconCount - 1;
+            break;
         case VK_RETURN:
-        case VK_SPACE: run_(focused_); return 0;
-        default: return 0;
+        case VK_SPACE:
+            run_(focused_);
+            return 0;
+        default:
+            return 0;
         }
         focus(next);
         return 0;
@@ -268,4 +298,4 @@ LRESULT IconStrip::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return WindowBase::handleMessage(message, wParam, lParam);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

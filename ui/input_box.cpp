@@ -16,11 +16,14 @@ constexpr int kDesktopFolder = 0x10;
 
 class InputBox : public ModalDialog {
 public:
-    InputBox(App& app, Skin& skin, const std::wstring& prompt, const std::wstring& preset)
-        : ModalDialog(skin), app_(app), prompt_(prompt), preset_(preset) {}
+    InputBox(App &app, Skin &skin, const std::wstring &prompt, const std::wstring &preset)
+        : ModalDialog(skin), app_(app), prompt_(prompt), preset_(preset) {
+    }
     // Empty unless OK ended the box: a box closed any other way, even with its
     // owner, answers nothing.
-    const std::wstring& text() const { return text_; }
+    const std::wstring &text() const {
+        return text_;
+    }
 
 private:
     void onInit() override {
@@ -31,13 +34,17 @@ private:
     }
     void onCommand(int id, int code) override {
         switch (id) {
-        case IDOK: text_ = itemText(IDC_BOX_TEXT); break;
+        case IDOK:
+            text_ = itemText(IDC_BOX_TEXT);
+            break;
         case IDC_DESKTOP_FOLDER: {
             const std::wstring desktop = app_.sys.specialFolder(kDesktopFolder);
             app_.sys.shellVerb(ToRef(hwnd()), L"open", desktop, desktop, kShowNormal);
             return;
         }
-        case IDC_EXPLORER: ExploreFolder(app_, ToRef(hwnd())); return;
+        case IDC_EXPLORER:
+            ExploreFolder(app_, ToRef(hwnd()));
+            return;
         case IDC_INSPECTOR: {
             std::wstring program = BuiltInPath(Tool::FileInspector), document;
             LaunchSuiteProgram(app_, program, document);
@@ -47,16 +54,16 @@ private:
         ModalDialog::onCommand(id, code);
     }
 
-    App& app_;
+    App &app_;
     std::wstring prompt_, preset_, text_;
 };
 
-}  // namespace
+} // namespace
 
-std::wstring ShowInputBox(App& app, Skin& skin, HWND owner, const std::wstring& prompt, const std::wstring& preset) {
+std::wstring ShowInputBox(App &app, Skin &skin, HWND owner, const std::wstring &prompt, const std::wstring &preset) {
     InputBox box(app, skin, prompt, preset);
     box.show(owner, IDD_INPUT_BOX);
     return box.text();
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

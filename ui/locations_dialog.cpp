@@ -29,11 +29,12 @@ constexpr LocateButton kButtons[] = {
 
 class LocationsDialog : public ModalDialog {
 public:
-    LocationsDialog(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
+    LocationsDialog(App &app, Skin &skin) : ModalDialog(skin), app_(app) {
+    }
 
 private:
     void showFields() {
-        for (const LocateButton& b : kButtons)
+        for (const LocateButton &b : kButtons)
             setItemText(b.field, app_.settings.*kFileChoices[static_cast<std::size_t>(b.choice)].setting);
     }
     void onInit() override {
@@ -42,21 +43,25 @@ private:
         setItemText(IDC_PASSWORD, app_.settings.ReturnPassword);
     }
     void onCommand(int id, int code) override {
-        for (const LocateButton& b : kButtons)
-            if (id == b.button && ChooseIntoSetting(app_, b.choice)) showFields();
-        if (id == IDC_SAME_FOR_ALL && SameForAll(app_)) showFields();
-        if (id == IDC_STRETCH) app_.settings.WallpaperStretch = IsDlgButtonChecked(hwnd(), IDC_STRETCH) ? 1 : 0;
-        if (id == IDC_PASSWORD && code == EN_CHANGE) app_.settings.ReturnPassword = itemText(IDC_PASSWORD);
+        for (const LocateButton &b : kButtons)
+            if (id == b.button && ChooseIntoSetting(app_, b.choice))
+                showFields();
+        if (id == IDC_SAME_FOR_ALL && SameForAll(app_))
+            showFields();
+        if (id == IDC_STRETCH)
+            app_.settings.WallpaperStretch = IsDlgButtonChecked(hwnd(), IDC_STRETCH) ? 1 : 0;
+        if (id == IDC_PASSWORD && code == EN_CHANGE)
+            app_.settings.ReturnPassword = itemText(IDC_PASSWORD);
         ModalDialog::onCommand(id, code);
     }
 
-    App& app_;
+    App &app_;
 };
 
-}  // namespace
+} // namespace
 
-void ShowProgramLocations(App& app, Skin& skin, HWND owner) {
+void ShowProgramLocations(App &app, Skin &skin, HWND owner) {
     LocationsDialog(app, skin).show(owner, IDD_LOCATIONS);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -13,12 +13,13 @@ std::wstring ExecutablePath() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
         const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length < path.size()) return path.substr(0, length);
+        if (length < path.size())
+            return path.substr(0, length);
         path.resize(path.size() * 2);
     }
 }
 
-}  // namespace
+} // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     orvane::ui::Win32System system;
@@ -28,12 +29,14 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     // The program's one skin, applied to the bar and every window it opens.
     orvane::ui::Skin skin;
     orvane::ui::MainWindow mainWindow(app, skin);
-    if (!mainWindow.open()) return 0;
+    if (!mainWindow.open())
+        return 0;
     system.setMessageOwner(mainWindow.hwnd());
 
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (TranslateAcceleratorW(mainWindow.hwnd(), mainWindow.accelerators(), &message)) continue;
+        if (TranslateAcceleratorW(mainWindow.hwnd(), mainWindow.accelerators(), &message))
+            continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

@@ -11,7 +11,7 @@ namespace {
 // Posted when the bar was minimised under the wallpaper: it comes back.
 constexpr UINT kRestoreUnderWallpaper = WM_APP + 1;
 
-TwipsRect ToTwips(const RECT& r, UINT dpi) {
+TwipsRect ToTwips(const RECT &r, UINT dpi) {
     return {PixelsToTwips(r.left, dpi), PixelsToTwips(r.top, dpi), PixelsToTwips(r.right - r.left, dpi),
             PixelsToTwips(r.bottom - r.top, dpi)};
 }
@@ -22,13 +22,14 @@ RECT PixelWorkArea() {
     return area;
 }
 
-}  // namespace
+} // namespace
 
-MainWindow::MainWindow(App& app, Skin& skin)
-    : app_(app), skin_(skin), background_(CreateSolidBrush(kMainBackColor)) {}
+MainWindow::MainWindow(App &app, Skin &skin) : app_(app), skin_(skin), background_(CreateSolidBrush(kMainBackColor)) {
+}
 
 MainWindow::~MainWindow() {
-    if (hwnd()) DestroyWindow(hwnd());
+    if (hwnd())
+        DestroyWindow(hwnd());
 }
 
 bool MainWindow::open() {
@@ -59,16 +60,18 @@ bool MainWindow::open() {
                 applicationWindow_.get()) ||
         !strip_.create(hwnd()))
         return false;
-    skin_.join(hwnd());  // the first of the program's windows
+    skin_.join(hwnd()); // the first of the program's windows
 
-    if (LoadMainWindow(app_, host_, state_) == LoadOutcome::HandedOver) return false;
+    if (LoadMainWindow(app_, host_, state_) == LoadOutcome::HandedOver)
+        return false;
     ShowWindow(hwnd(), SW_SHOWNORMAL);
     UpdateWindow(hwnd());
     return true;
 }
 
 void MainWindow::unload() {
-    if (std::exchange(unloaded_, true)) return;
+    if (std::exchange(unloaded_, true))
+        return;
     UnloadMainWindow(app_, host_);
     shell32_.reset();
 }
@@ -85,7 +88,8 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         DestroyWindow(hwnd());
         return 0;
     case WM_ENDSESSION:
-        if (wParam) unload();  // the session ends: keep the settings
+        if (wParam)
+            unload(); // the session ends: keep the settings
         return 0;
     case WM_DESTROY:
         skin_.leave(hwnd());
@@ -96,7 +100,8 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     case WM_SIZE:
         // The bar owns the wallpaper, and a minimised owner takes the cover along: not while it shows.
-        if (wParam == SIZE_MINIMIZED && OpenWallpaper()) PostMessageW(hwnd(), kRestoreUnderWallpaper, 0, 0);
+        if (wParam == SIZE_MINIMIZED && OpenWallpaper())
+            PostMessageW(hwnd(), kRestoreUnderWallpaper, 0, 0);
         resized();
         break;
     case kRestoreUnderWallpaper:
@@ -104,16 +109,18 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_SETFOCUS:
         // The strip is the bar's one control: the keyboard goes there.
-        if (IsWindowVisible(strip_.hwnd())) SetFocus(strip_.hwnd());
+        if (IsWindowVisible(strip_.hwnd()))
+            SetFocus(strip_.hwnd());
         return 0;
     case kSkinChanged:
         setMenuColours();
         return 0;
     case WM_WINDOWPOSCHANGED:
-        if (!(reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_NOZORDER)) keepApplicationWindowBelow();
+        if (!(reinterpret_cast<const WINDOWPOS *>(lParam)->flags & SWP_NOZORDER))
+            keepApplicationWindowBelow();
         break;
     case WM_DPICHANGED: {
-        const RECT* suggested = reinterpret_cast<const RECT*>(lParam);
+        const RECT *suggested = reinterpret_cast<const RECT *>(lParam);
         setPixelRect(suggested->left, suggested->top, suggested->right - suggested->left,
                      suggested->bottom - suggested->top, 0);
         menuBar_.dpiChanged(hwnd());
@@ -128,13 +135,16 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case WM_MENUCHAR:
-        if (!(HIWORD(wParam) & MF_SYSMENU)) return menuBar_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam));
+        if (!(HIWORD(wParam) & MF_SYSMENU))
+            return menuBar_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam));
         break;
     case WM_MEASUREITEM:
-        if (menuBar_.measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam))) return TRUE;
+        if (menuBar_.measure(*reinterpret_cast<MEASUREITEMSTRUCT *>(lParam)))
+            return TRUE;
         break;
     case WM_DRAWITEM:
-        if (menuBar_.draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam))) return TRUE;
+        if (menuBar_.draw(*reinterpret_cast<const DRAWITEMSTRUCT *>(lParam)))
+            return TRUE;
         break;
     }
     return WindowBase::handleMessage(message, wParam, lParam);
@@ -149,19 +159,23 @@ void MainWindow::setPixelRect(int left, int top, int width, int height, UINT fla
     SetWindowPos(hwnd(), nullptr, left, top, width, height, flags | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void MainWindow::setTwipsRect(const TwipsRect& r, UINT flags) {
+void MainWindow::setTwipsRect(const TwipsRect &r, UINT flags) {
     const UINT dpi = WindowDpi(hwnd());
     setPixelRect(TwipsToPixels(r.left, dpi), TwipsToPixels(r.top, dpi), TwipsToPixels(r.width, dpi),
                  TwipsToPixels(r.height, dpi), flags);
 }
 
-BarState MainWindow::barState() { return {geometry(), app_.settings.ExpandedLayout != 0, state_.atTop}; }
+BarState MainWindow::barState() {
+    return {geometry(), app_.settings.ExpandedLayout != 0, state_.atTop};
+}
 
 void MainWindow::resized() {
-    if (!strip_.hwnd() || IsIconic(hwnd())) return;
-    Settings& s = app_.settings;
+    if (!strip_.hwnd() || IsIconic(hwnd()))
+        return;
+    Settings &s = app_.settings;
     const TwipsRect window = geometry();
-    if (layoutDone_ && IsWindowVisible(strip_.hwnd()) && s.ExpandedLayout == 1) s.ExpandedWidth = window.width;
+    if (layoutDone_ && IsWindowVisible(strip_.hwnd()) && s.ExpandedLayout == 1)
+        s.ExpandedWidth = window.width;
     // The layout measures from the window's outer edges, where its caption and
     // menu bar lie inside the top margin; here the system draws them outside
     // the client area, so the strip keeps its margins by sitting midway in it.
@@ -183,7 +197,9 @@ void MainWindow::resized() {
     strip_.place(strip, iconLeft, TwipsToPixels(s.IconSize, dpi));
 }
 
-void MainWindow::setMenuColours() { menuBar_.setColours(hwnd(), skin_.menuColours()); }
+void MainWindow::setMenuColours() {
+    menuBar_.setColours(hwnd(), skin_.menuColours());
+}
 
 RECT MainWindow::pixelRect() {
     RECT r{};
@@ -218,30 +234,32 @@ TwipsRect MainWindow::geometry() {
         WINDOWPLACEMENT placement{};
         placement.length = sizeof placement;
         GetWindowPlacement(hwnd(), &placement);
-        r = placement.rcNormalPosition;  // work-area coordinates
+        r = placement.rcNormalPosition; // work-area coordinates
         const RECT area = PixelWorkArea();
         OffsetRect(&r, area.left, area.top);
     }
     return ToTwips(r, WindowDpi(hwnd()));
 }
 
-TwipsRect MainWindow::workArea() { return ToTwips(PixelWorkArea(), WindowDpi(hwnd())); }
+TwipsRect MainWindow::workArea() {
+    return ToTwips(PixelWorkArea(), WindowDpi(hwnd()));
+}
 
 // Every open window takes the skin; the menu bar takes its colours when told.
-void MainWindow::applySkin(const std::wstring& skinFile) {
+void MainWindow::applySkin(const std::wstring &skinFile) {
     skin_.load(skinFile);
     skin_.applyToAll();
 }
 
 void MainWindow::buildMenuBar() {
-    const Settings& s = app_.settings;
+    const Settings &s = app_.settings;
     menuBar_.setFont(s.ListFontName, s.ListFontSize, s.ListFontBold != 0);
     menuBar_.setColours(hwnd(), skin_.menuColours());
-    menuBar_.build(hwnd());  // in those colours
+    menuBar_.build(hwnd()); // in those colours
 }
 
 void MainWindow::takeOpeningSize() {
-    const Settings& s = app_.settings;
+    const Settings &s = app_.settings;
     const bool shown = s.ExpandedLayout == 1;
     ShowWindow(strip_.hwnd(), shown ? SW_SHOWNA : SW_HIDE);
     const TwipsRect size = OpeningSize(shown, s.IconSize, s.ExpandedWidth);
@@ -254,7 +272,7 @@ void MainWindow::useScreenWidth() {
 }
 
 void MainWindow::changeIconSize(int step) {
-    Settings& s = app_.settings;
+    Settings &s = app_.settings;
     s.IconSize = SteppedIconSize(s.IconSize, step);
     setHeight(ExpandedHeight(s.IconSize));
     resized();
@@ -276,4 +294,4 @@ void MainWindow::toggleTopBottom() {
     state_.atTop = bar.atTop;
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

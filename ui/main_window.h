@@ -26,25 +26,28 @@ inline constexpr COLORREF kMainBackColor = RGB(240, 240, 240);
 class MainWindow : public WindowBase {
 public:
     // The bar paints with the skin, applies it, and hands it to every window it opens.
-    MainWindow(App& app, Skin& skin);
+    MainWindow(App &app, Skin &skin);
     // The bar goes before the members its messages use.
     ~MainWindow() override;
 
     // Creates and loads the window; false when this copy handed over or failed.
     bool open();
     // The menu bar's shortcuts, for the message loop.
-    HACCEL accelerators() const { return menuBar_.accelerators(); }
+    HACCEL accelerators() const {
+        return menuBar_.accelerators();
+    }
 
 private:
     // The bar as the start-up and shut-down sequences see it.
     class Host final : public MainWindowHost {
     public:
-        explicit Host(MainWindow& window) : window_(window) {}
+        explicit Host(MainWindow &window) : window_(window) {
+        }
 
         bool earlierInstanceRunning() override;
         std::wstring programTitle() override;
-        void setProgramTitle(const std::wstring& title) override;
-        WindowRef findApplicationWindow(const std::wstring& title) override;
+        void setProgramTitle(const std::wstring &title) override;
+        WindowRef findApplicationWindow(const std::wstring &title) override;
         void endProcessNow() override;
         void initCommonControls() override;
         WindowRef handle() override;
@@ -56,20 +59,21 @@ private:
         TwipsRect workArea() override;
         std::int32_t backColor() override;
         void layIconStrip() override;
-        void applySkin(const std::wstring& skinFile) override;
+        void applySkin(const std::wstring &skinFile) override;
         void buildMenuBar() override;
         void takeOpeningSize() override;
 
     private:
-        MainWindow& window_;
+        MainWindow &window_;
     };
 
     // The bar as its commands see it: the windows it opens over itself and its layout.
     class Routines final : public MainWindowRoutines {
     public:
-        explicit Routines(MainWindow& window) : window_(window) {}
+        explicit Routines(MainWindow &window) : window_(window) {
+        }
 
-        std::wstring inputBox(const std::wstring& prompt, const std::wstring& preset) override;
+        std::wstring inputBox(const std::wstring &prompt, const std::wstring &preset) override;
         void showAbout() override;
         void showProgramLocations() override;
         void showYourProgram() override;
@@ -86,7 +90,7 @@ private:
         void showWallpaper() override;
 
     private:
-        MainWindow& window_;
+        MainWindow &window_;
     };
 
     LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -95,7 +99,7 @@ private:
     void setPixelRect(int left, int top, int width, int height, UINT flags);
     RECT pixelRect();
     // Moves and sizes the window in one step, so the resize handler sees only the result.
-    void setTwipsRect(const TwipsRect& rect, UINT flags);
+    void setTwipsRect(const TwipsRect &rect, UINT flags);
     BarState barState();
     // The resize handler: the expanded width follows the user, the strip follows the window.
     void resized();
@@ -117,20 +121,22 @@ private:
     void toggleTopBottom();
 
     // The skin, the menu bar and its font.
-    void applySkin(const std::wstring& skinFile);
+    void applySkin(const std::wstring &skinFile);
     void buildMenuBar();
 
-    App& app_;
-    Skin& skin_;
+    App &app_;
+    Skin &skin_;
     // The user's own programs, shared by the windows that show and edit them.
     CustomProgramTable customPrograms_;
     MenuBar menuBar_;
     Host host_{*this};
     Routines routines_{*this};
     MainCommands commands_{app_, routines_};
-    IconStrip strip_{skin_, [this](int index) { commands_.runIcon(index); }};
+    IconStrip strip_{skin_, [this](int index) {
+                         commands_.runIcon(index);
+                     }};
     MainWindowState state_;
-    bool layoutDone_ = true;  // false while "&Icons" rearranges the window
+    bool layoutDone_ = true; // false while "&Icons" rearranges the window
     UniqueModule shell32_;
     UniqueHandle instanceMutex_;
     UniqueWindow applicationWindow_;
@@ -138,4 +144,4 @@ private:
     bool unloaded_ = false;
 };
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

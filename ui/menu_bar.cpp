@@ -14,7 +14,7 @@ int IconNumber(std::wstring_view key) {
     return key.size() > 1 ? _wtoi(std::wstring(key.substr(1)).c_str()) : 0;
 }
 
-std::wstring ItemText(const MenuRow& row) {
+std::wstring ItemText(const MenuRow &row) {
     const std::wstring shortcut = ShortcutText(row.shortcut);
     return std::wstring(row.caption) + (shortcut.empty() ? L"" : L"\t" + shortcut);
 }
@@ -25,25 +25,26 @@ BYTE AcceleratorFlags(Shortcut shortcut) {
 }
 
 // The system's menu font at the window's DPI, or the chosen one.
-HFONT MenuFont(UINT dpi, const std::wstring& name, int points, bool bold) {
+HFONT MenuFont(UINT dpi, const std::wstring &name, int points, bool bold) {
     LOGFONTW font = NonClientMetricsForDpi(dpi).lfMenuFont;
     if (!name.empty() && name.size() < LF_FACESIZE) {
         wcscpy_s(font.lfFaceName, name.c_str());
-        if (points > 0) font.lfHeight = -MulDiv(points, static_cast<int>(dpi), 72);
+        if (points > 0)
+            font.lfHeight = -MulDiv(points, static_cast<int>(dpi), 72);
         font.lfWeight = bold ? FW_BOLD : FW_NORMAL;
     }
     return CreateFontIndirectW(&font);
 }
 
 // The item as the system keeps it: its caption, its row in data, drawn by us.
-MENUITEMINFOW ItemInfo(const MenuRow& row, std::size_t index, const std::wstring& text) {
+MENUITEMINFOW ItemInfo(const MenuRow &row, std::size_t index, const std::wstring &text) {
     MENUITEMINFOW item{};
     item.cbSize = sizeof item;
     item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_DATA | (row.isSeparator() ? 0 : MIIM_STRING);
     item.fType = MFT_OWNERDRAW | (row.isSeparator() ? MFT_SEPARATOR : 0);
     item.wID = kFirstMenuCommand + static_cast<UINT>(index);
     item.dwItemData = index;
-    item.dwTypeData = const_cast<wchar_t*>(text.c_str());
+    item.dwTypeData = const_cast<wchar_t *>(text.c_str());
     return item;
 }
 
@@ -55,14 +56,14 @@ std::wstring CaptionOf(HMENU menu, UINT command) {
     return caption.substr(0, caption.find(L'\t'));
 }
 
-}  // namespace
+} // namespace
 
 void MenuBar::build(HWND window) {
     HMENU bar = CreateMenu();
     std::map<std::wstring_view, HMENU> menus;
     std::vector<ACCEL> shortcuts;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const MenuRow& row = rows_[i];
+        const MenuRow &row = rows_[i];
         const UINT command = kFirstMenuCommand + static_cast<UINT>(i);
         const std::wstring text = ItemText(row);
         MENUITEMINFOW item = ItemInfo(row, i, text);
@@ -75,12 +76,13 @@ void MenuBar::build(HWND window) {
         if (row.shortcut.key)
             shortcuts.push_back({AcceleratorFlags(row.shortcut), row.shortcut.key, static_cast<WORD>(command)});
     }
-    accelerators_.reset(shortcuts.empty() ? nullptr
-                                          : CreateAcceleratorTableW(shortcuts.data(), static_cast<int>(shortcuts.size())));
+    accelerators_.reset(
+        shortcuts.empty() ? nullptr : CreateAcceleratorTableW(shortcuts.data(), static_cast<int>(shortcuts.size())));
     forgetSizedResources(window);
     HMENU previous = GetMenu(window);
-    SetMenu(window, bar);  // the window owns it from now on
-    if (previous) DestroyMenu(previous);
+    SetMenu(window, bar); // the window owns it from now on
+    if (previous)
+        DestroyMenu(previous);
     setColours(window, colours_);
 }
 
@@ -108,18 +110,19 @@ std::wstring MenuBar::popup(HWND owner, POINT at) {
     info.hbrBack = menuBrush_ ? menuBrush_.get() : nullptr;
     SetMenuInfo(menu.get(), &info);
     popup_ = true;
-    const UINT picked = static_cast<UINT>(
-        TrackPopupMenuEx(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, owner, nullptr));
+    const UINT picked =
+        static_cast<UINT>(TrackPopupMenuEx(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, owner, nullptr));
     popup_ = false;
     return picked ? CaptionOf(menu.get(), picked) : std::wstring();
 }
 
-void MenuBar::setColours(HWND window, const MenuColours& colours) {
+void MenuBar::setColours(HWND window, const MenuColours &colours) {
     colours_ = colours;
     barBrush_.reset(CreateSolidBrush(colours.barBack));
     menuBrush_.reset(CreateSolidBrush(colours.menuBack));
     HMENU bar = GetMenu(window);
-    if (!bar) return;
+    if (!bar)
+        return;
     MENUINFO info{};
     info.cbSize = sizeof info;
     info.fMask = MIM_BACKGROUND | MIM_APPLYTOSUBMENUS;
@@ -128,10 +131,11 @@ void MenuBar::setColours(HWND window, const MenuColours& colours) {
     info.fMask = MIM_BACKGROUND;
     info.hbrBack = barBrush_.get();
     SetMenuInfo(bar, &info);
-    if (IsWindowVisible(window)) DrawMenuBar(window);  // a hidden bar is drawn when shown
+    if (IsWindowVisible(window))
+        DrawMenuBar(window); // a hidden bar is drawn when shown
 }
 
-void MenuBar::setFont(const std::wstring& name, int points, bool bold) {
+void MenuBar::setFont(const std::wstring &name, int points, bool bold) {
     fontName_ = name;
     fontPoints_ = points;
     fontBold_ = bold;
@@ -139,48 +143,60 @@ void MenuBar::setFont(const std::wstring& name, int points, bool bold) {
 }
 
 HFONT MenuBar::font() const {
-    if (!font_) font_.reset(MenuFont(dpi_, fontName_, fontPoints_, fontBold_));  // a start that draws no item makes no font
+    if (!font_)
+        font_.reset(MenuFont(dpi_, fontName_, fontPoints_, fontBold_)); // a start that draws no item makes no font
     return font_.get();
 }
 
 void MenuBar::dpiChanged(HWND window) {
     // Owner-drawn items keep the size they were measured at; a fresh bar is measured anew.
-    if (GetMenu(window)) build(window);
+    if (GetMenu(window))
+        build(window);
 }
 
 void MenuBar::forgetSizedResources(HWND window) {
     dpi_ = WindowDpi(window);
-    font_.reset();  // made at the new DPI when an item is first measured
-    for (UniqueIcon& icon : icons_) icon.reset();  // loaded at the new size when first drawn
+    font_.reset(); // made at the new DPI when an item is first measured
+    for (UniqueIcon &icon : icons_)
+        icon.reset(); // loaded at the new size when first drawn
 }
 
 // Loaded when first drawn: a start-up pays for no icon. A key the resources
 // lack leaves its item without one.
 HICON MenuBar::icon(int key) const {
-    if (key <= 0 || key >= static_cast<int>(icons_.size())) return nullptr;
-    UniqueIcon& icon = icons_[static_cast<std::size_t>(key)];
+    if (key <= 0 || key >= static_cast<int>(icons_.size()))
+        return nullptr;
+    UniqueIcon &icon = icons_[static_cast<std::size_t>(key)];
     if (!icon)
         icon.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kFirstMenuIcon + key),
                                                  IMAGE_ICON, scaled(16), scaled(16), LR_DEFAULTCOLOR)));
     return icon.get();
 }
 
-std::wstring MenuBar::caption(HWND window, UINT command) const { return CaptionOf(GetMenu(window), command); }
+std::wstring MenuBar::caption(HWND window, UINT command) const {
+    return CaptionOf(GetMenu(window), command);
+}
 
-bool MenuBar::dialogMessage(HWND dialog, const Skin& skin, UINT message, WPARAM wParam, LPARAM lParam) {
+bool MenuBar::dialogMessage(HWND dialog, const Skin &skin, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_MEASUREITEM: return measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
-    case WM_DRAWITEM: return draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+    case WM_MEASUREITEM:
+        return measure(*reinterpret_cast<MEASUREITEMSTRUCT *>(lParam));
+    case WM_DRAWITEM:
+        return draw(*reinterpret_cast<const DRAWITEMSTRUCT *>(lParam));
     case WM_MENUCHAR:
         SetWindowLongPtrW(dialog, DWLP_MSGRESULT, menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam)));
         return true;
-    case kSkinChanged: setColours(dialog, skin.menuColours()); return true;
+    case kSkinChanged:
+        setColours(dialog, skin.menuColours());
+        return true;
     }
     return false;
 }
 
 LRESULT MenuBar::menuChar(wchar_t letter, HMENU menu) const {
-    const auto upper = [](wchar_t c) { return reinterpret_cast<ULONG_PTR>(CharUpperW(reinterpret_cast<wchar_t*>(c))); };
+    const auto upper = [](wchar_t c) {
+        return reinterpret_cast<ULONG_PTR>(CharUpperW(reinterpret_cast<wchar_t *>(c)));
+    };
     for (int position = 0, count = GetMenuItemCount(menu); position < count; ++position) {
         wchar_t text[256] = {};
         GetMenuStringW(menu, static_cast<UINT>(position), text, 256, MF_BYPOSITION);
@@ -190,9 +206,10 @@ LRESULT MenuBar::menuChar(wchar_t letter, HMENU menu) const {
     return MAKELRESULT(0, MNC_IGNORE);
 }
 
-bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
-    if (item.CtlType != ODT_MENU || item.itemData >= rows_.size()) return false;
-    const MenuRow& row = rows_[item.itemData];
+bool MenuBar::measure(MEASUREITEMSTRUCT &item) const {
+    if (item.CtlType != ODT_MENU || item.itemData >= rows_.size())
+        return false;
+    const MenuRow &row = rows_[item.itemData];
     const bool onBar = this->onBar(row);
     if (row.isSeparator()) {
         item.itemWidth = 0;
@@ -219,9 +236,10 @@ bool MenuBar::measure(MEASUREITEMSTRUCT& item) const {
     return true;
 }
 
-bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
-    if (item.CtlType != ODT_MENU || item.itemData >= rows_.size()) return false;
-    const MenuRow& row = rows_[item.itemData];
+bool MenuBar::draw(const DRAWITEMSTRUCT &item) const {
+    if (item.CtlType != ODT_MENU || item.itemData >= rows_.size())
+        return false;
+    const MenuRow &row = rows_[item.itemData];
     HDC dc = item.hDC;
     RECT r = item.rcItem;
     if (onBar(row)) {
@@ -253,7 +271,7 @@ bool MenuBar::draw(const DRAWITEMSTRUCT& item) const {
     return true;
 }
 
-void MenuBar::drawBarItem(const DRAWITEMSTRUCT& item, const std::wstring& caption) const {
+void MenuBar::drawBarItem(const DRAWITEMSTRUCT &item, const std::wstring &caption) const {
     HDC dc = item.hDC;
     RECT r = item.rcItem;
     const bool lit = item.itemState & (ODS_SELECTED | ODS_HOTLIGHT);
@@ -266,4 +284,4 @@ void MenuBar::drawBarItem(const DRAWITEMSTRUCT& item, const std::wstring& captio
     SelectObject(dc, previous);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

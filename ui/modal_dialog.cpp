@@ -16,27 +16,30 @@ void CentreOver(HWND dialog, HWND owner) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     GetMonitorInfoW(MonitorFromWindow(owner ? owner : dialog, MONITOR_DEFAULTTONEAREST), &monitor);
-    const RECT& area = monitor.rcWork;
+    const RECT &area = monitor.rcWork;
     const int width = box.right - box.left, height = box.bottom - box.top;
     // The bar is a thin strip at the screen's edge: keep the dialog on the screen.
-    const int left = std::clamp((over.left + over.right - width) / 2, area.left, std::max(area.left, area.right - width));
-    const int top = std::clamp((over.top + over.bottom - height) / 2, area.top, std::max(area.top, area.bottom - height));
+    const int left =
+        std::clamp((over.left + over.right - width) / 2, area.left, std::max(area.left, area.right - width));
+    const int top =
+        std::clamp((over.top + over.bottom - height) / 2, area.top, std::max(area.top, area.bottom - height));
     SetWindowPos(dialog, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // The dialogs open on this thread, innermost last.
-thread_local std::vector<ModalDialog*> openDialogs;
+thread_local std::vector<ModalDialog *> openDialogs;
 
-}  // namespace
+} // namespace
 
 // The dialog manager's loop has no place for shortcuts; its message filter does.
 LRESULT CALLBACK ModalDialog::filter(int code, WPARAM wParam, LPARAM lParam) {
     if (code == MSGF_DIALOGBOX) {
-        MSG& message = *reinterpret_cast<MSG*>(lParam);
+        MSG &message = *reinterpret_cast<MSG *>(lParam);
         for (auto it = openDialogs.rbegin(); it != openDialogs.rend(); ++it) {
             HWND dialog = (*it)->window_;
             if (dialog && (message.hwnd == dialog || IsChild(dialog, message.hwnd))) {
-                if ((*it)->translate(message)) return TRUE;
+                if ((*it)->translate(message))
+                    return TRUE;
                 break;
             }
         }
@@ -46,9 +49,9 @@ LRESULT CALLBACK ModalDialog::filter(int code, WPARAM wParam, LPARAM lParam) {
 
 INT_PTR ModalDialog::show(HWND owner, int templateId) {
     openDialogs.push_back(this);
-    UniqueHook hook(openDialogs.size() == 1 ? SetWindowsHookExW(WH_MSGFILTER, &ModalDialog::filter, nullptr,
-                                                                GetCurrentThreadId())
-                                            : nullptr);
+    UniqueHook hook(openDialogs.size() == 1
+                        ? SetWindowsHookExW(WH_MSGFILTER, &ModalDialog::filter, nullptr, GetCurrentThreadId())
+                        : nullptr);
     const INT_PTR result = DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner,
                                            &ModalDialog::route, reinterpret_cast<LPARAM>(this));
     openDialogs.pop_back();
@@ -56,7 +59,8 @@ INT_PTR ModalDialog::show(HWND owner, int templateId) {
 }
 
 void ModalDialog::onCommand(int id, int) {
-    if (id == IDOK || id == IDCANCEL) end(id);
+    if (id == IDOK || id == IDCANCEL)
+        end(id);
 }
 
 std::wstring WindowText(HWND window) {
@@ -66,9 +70,9 @@ std::wstring WindowText(HWND window) {
 }
 
 INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* self = reinterpret_cast<ModalDialog*>(GetWindowLongPtrW(window, DWLP_USER));
+    auto *self = reinterpret_cast<ModalDialog *>(GetWindowLongPtrW(window, DWLP_USER));
     if (message == WM_INITDIALOG) {
-        self = reinterpret_cast<ModalDialog*>(lParam);
+        self = reinterpret_cast<ModalDialog *>(lParam);
         SetWindowLongPtrW(window, DWLP_USER, lParam);
         self->window_ = window;
         CentreOver(window, self->centreOver_ ? self->centreOver_ : GetWindow(window, GW_OWNER));
@@ -76,7 +80,8 @@ INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LP
         self->onInit();
         return TRUE;
     }
-    if (!self) return FALSE;
+    if (!self)
+        return FALSE;
     switch (message) {
     case WM_COMMAND:
         self->onCommand(LOWORD(wParam), HIWORD(wParam));
@@ -94,4 +99,4 @@ INT_PTR CALLBACK ModalDialog::route(HWND window, UINT message, WPARAM wParam, LP
     return self->onMessage(message, wParam, lParam);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -24,11 +24,11 @@ void StopImaging(ULONG_PTR token);
 // its proportions kept and centred when asked; -1 for either side means the
 // image's own size, given back. Nothing, once "Error loading picture" has been
 // said, when the file cannot be read as an image or is too large to decode.
-UniqueBitmap LoadScaledPicture(App& app, const std::wstring& path, int& width, int& height, COLORREF background,
+UniqueBitmap LoadScaledPicture(App &app, const std::wstring &path, int &width, int &height, COLORREF background,
                                bool keepAspect);
 
 // The standard loader's picture (BMP, JPEG, GIF, ICO, WMF) at its natural size
 // on white; nothing, quietly, when it cannot read it.
-UniqueBitmap LoadStandardPicture(App& app, const std::wstring& path, PixelSize& natural);
+UniqueBitmap LoadStandardPicture(App &app, const std::wstring &path, PixelSize &natural);
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

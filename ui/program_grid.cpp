@@ -17,28 +17,27 @@ constexpr int kUnknownIcon = -2;
 constexpr COLORREF kNameBack = 0x9D9493, kNameText = 0xFFFFFF;
 constexpr COLORREF kEnteredBack = 0xF7FFFF, kEnteredText = 0x000000;
 
-HIMAGELIST SystemImageList(const std::wstring& path, int& index) {
-    EnterComApartment();  // the shell asks the file's own icon handler
+HIMAGELIST SystemImageList(const std::wstring &path, int &index) {
+    EnterComApartment(); // the shell asks the file's own icon handler
     SHFILEINFOW info{};
-    const auto list = reinterpret_cast<HIMAGELIST>(
-        SHGetFileInfoW(path.c_str(), 0, &info, sizeof info, SHGFI_SYSICONINDEX));
+    const auto list =
+        reinterpret_cast<HIMAGELIST>(SHGetFileInfoW(path.c_str(), 0, &info, sizeof info, SHGFI_SYSICONINDEX));
     index = list ? info.iIcon : -1;
-    return list;  // the system's own: never destroyed here
+    return list; // the system's own: never destroyed here
 }
 
-}  // namespace
+} // namespace
 
-void ProgramGrid::create(HWND parent, int id, GridPointer& pointer, const Skin& skin) {
+void ProgramGrid::create(HWND parent, int id, GridPointer &pointer, const Skin &skin) {
     pointer_ = &pointer;
     skin_ = &skin;
-    list_ = ListView(CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"",
-                                     WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER |
-                                         LVS_SINGLESEL | LVS_SHOWSELALWAYS,
-                                     0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                     GetModuleHandleW(nullptr), nullptr));
+    list_ = ListView(CreateWindowExW(
+        WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"",
+        WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS, 0, 0,
+        0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr));
     list_.setExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
     // Screen readers name the columns, though no header shows them.
-    const wchar_t* captions[] = {L"Icon", L"Program"};
+    const wchar_t *captions[] = {L"Icon", L"Program"};
     for (int column = 0; column < 2; ++column)
         list_.insertColumn(column, captions[column], scaled(kIconColumn));
     // An empty image list of the row's height gives every row that height.
@@ -47,9 +46,11 @@ void ProgramGrid::create(HWND parent, int id, GridPointer& pointer, const Skin& 
     SetWindowSubclass(list_, &ProgramGrid::Subclass, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
-int ProgramGrid::scaled(int pixels) const { return ScaledForWindow(pixels, list_); }
+int ProgramGrid::scaled(int pixels) const {
+    return ScaledForWindow(pixels, list_);
+}
 
-void ProgramGrid::fill(const CustomProgramTable& table, const std::vector<std::size_t>& entries) {
+void ProgramGrid::fill(const CustomProgramTable &table, const std::vector<std::size_t> &entries) {
     entries_ = entries;
     names_.clear();
     programs_.clear();
@@ -64,7 +65,7 @@ void ProgramGrid::fill(const CustomProgramTable& table, const std::vector<std::s
     }
 }
 
-void ProgramGrid::place(const RECT& area) {
+void ProgramGrid::place(const RECT &area) {
     MoveWindow(list_, area.left, area.top, area.right - area.left, area.bottom - area.top, TRUE);
     RECT client{};
     GetClientRect(list_, &client);
@@ -72,32 +73,38 @@ void ProgramGrid::place(const RECT& area) {
     list_.setColumnWidth(1, std::max(0, static_cast<int>(client.right) - scaled(kIconColumn)));
 }
 
-int ProgramGrid::currentRow() const { return list_.currentRow(); }
+int ProgramGrid::currentRow() const {
+    return list_.currentRow();
+}
 
 void ProgramGrid::setCurrentRow(int row) {
-    if (row < 0 || row >= rowCount()) return;
+    if (row < 0 || row >= rowCount())
+        return;
     list_.setItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
     list_.setItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     list_.ensureVisible(row);
 }
 
 void ProgramGrid::ensureCurrentRow() {
-    if (currentRow() < 0) setCurrentRow(0);
+    if (currentRow() < 0)
+        setCurrentRow(0);
 }
 
 int ProgramGrid::iconOf(int row) {
-    int& icon = icons_[static_cast<std::size_t>(row)];
+    int &icon = icons_[static_cast<std::size_t>(row)];
     if (icon == kUnknownIcon) {
         icon = -1;
         if (!TrimBlanks(names_[static_cast<std::size_t>(row)]).empty())
-            if (HIMAGELIST images = SystemImageList(programs_[static_cast<std::size_t>(row)], icon)) images_ = images;
+            if (HIMAGELIST images = SystemImageList(programs_[static_cast<std::size_t>(row)], icon))
+                images_ = images;
     }
     return icon;
 }
 
-LRESULT ProgramGrid::customDraw(NMLVCUSTOMDRAW& draw) {
+LRESULT ProgramGrid::customDraw(NMLVCUSTOMDRAW &draw) {
     switch (draw.nmcd.dwDrawStage) {
-    case CDDS_PREPAINT: return CDRF_NOTIFYITEMDRAW;
+    case CDDS_PREPAINT:
+        return CDRF_NOTIFYITEMDRAW;
     case CDDS_ITEMPREPAINT:
         drawRow(draw.nmcd.hdc, static_cast<int>(draw.nmcd.dwItemSpec), draw.nmcd.uItemState);
         return CDRF_SKIPDEFAULT;
@@ -106,7 +113,8 @@ LRESULT ProgramGrid::customDraw(NMLVCUSTOMDRAW& draw) {
 }
 
 void ProgramGrid::drawRow(HDC dc, int row, UINT state) {
-    if (row < 0 || row >= rowCount()) return;
+    if (row < 0 || row >= rowCount())
+        return;
     RECT whole{};
     list_.rowRect(row, whole);
     const RECT name = list_.cellRect(row, 1);
@@ -133,13 +141,14 @@ void ProgramGrid::drawRow(HDC dc, int row, UINT state) {
     } else {
         FillColour(dc, name, pointer_->seen ? kNameBack : GetSysColor(COLOR_WINDOW));
     }
-    if ((state & CDIS_SELECTED) && nameEntered) FrameColour(dc, name, colours.frame);
+    if ((state & CDIS_SELECTED) && nameEntered)
+        FrameColour(dc, name, colours.frame);
     RECT label = name;
     label.left += scaled(6);
     label.right -= scaled(4);
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, text);
-    const std::wstring& caption = names_[static_cast<std::size_t>(row)];
+    const std::wstring &caption = names_[static_cast<std::size_t>(row)];
     DrawTextW(dc, caption.c_str(), static_cast<int>(caption.size()), &label,
               DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
     if ((state & CDIS_FOCUS) && GetFocus() == list_) {
@@ -152,7 +161,8 @@ void ProgramGrid::drawRow(HDC dc, int row, UINT state) {
 void ProgramGrid::pointerAt(POINT point) {
     LVHITTESTINFO hit{};
     const POINT cell = list_.hitTest(point, hit) >= 0 ? POINT{hit.iItem, hit.iSubItem} : POINT{-1, -1};
-    if (cell.x == hot_.x && cell.y == hot_.y) return;
+    if (cell.x == hot_.x && cell.y == hot_.y)
+        return;
     hot_ = cell;
     if (cell.x >= 0 && !pointer_->seen) {
         // From now on every name cell of both grids takes the pointer's colours.
@@ -164,7 +174,7 @@ void ProgramGrid::pointerAt(POINT point) {
 
 LRESULT CALLBACK ProgramGrid::Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                        DWORD_PTR data) {
-    auto* self = reinterpret_cast<ProgramGrid*>(data);
+    auto *self = reinterpret_cast<ProgramGrid *>(data);
     switch (message) {
     case WM_MOUSEMOVE: {
         TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, window, 0};
@@ -188,4 +198,4 @@ LRESULT CALLBACK ProgramGrid::Subclass(HWND window, UINT message, WPARAM wParam,
     return DefSubclassProc(window, message, wParam, lParam);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -27,15 +27,21 @@ struct GridPointer {
 class ProgramGrid {
 public:
     // The current row takes the menus' highlight in the skin's colours.
-    void create(HWND parent, int id, GridPointer& pointer, const Skin& skin);
-    HWND hwnd() const { return list_; }
+    void create(HWND parent, int id, GridPointer &pointer, const Skin &skin);
+    HWND hwnd() const {
+        return list_;
+    }
 
     // The rows: these entries of the table, in order.
-    void fill(const CustomProgramTable& table, const std::vector<std::size_t>& entries);
-    void place(const RECT& area);
+    void fill(const CustomProgramTable &table, const std::vector<std::size_t> &entries);
+    void place(const RECT &area);
 
-    int rowCount() const { return static_cast<int>(entries_.size()); }
-    std::size_t entryOf(int row) const { return entries_[static_cast<std::size_t>(row)]; }
+    int rowCount() const {
+        return static_cast<int>(entries_.size());
+    }
+    std::size_t entryOf(int row) const {
+        return entries_[static_cast<std::size_t>(row)];
+    }
     // The current row: the one with the focus mark; -1 when there is none.
     int currentRow() const;
     void setCurrentRow(int row);
@@ -43,7 +49,7 @@ public:
     void ensureCurrentRow();
 
     // Its NM_CUSTOMDRAW: the rows are painted here.
-    LRESULT customDraw(NMLVCUSTOMDRAW& draw);
+    LRESULT customDraw(NMLVCUSTOMDRAW &draw);
 
 private:
     static LRESULT CALLBACK Subclass(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
@@ -53,14 +59,14 @@ private:
     int scaled(int pixels) const;
 
     ListView list_;
-    GridPointer* pointer_ = nullptr;
-    const Skin* skin_ = nullptr;
+    GridPointer *pointer_ = nullptr;
+    const Skin *skin_ = nullptr;
     std::vector<std::size_t> entries_;
     std::vector<std::wstring> names_, programs_;
-    std::vector<int> icons_;  // in the system image list; -1 none, -2 not asked yet
-    HIMAGELIST images_ = nullptr;  // the system's own, never destroyed here
+    std::vector<int> icons_;      // in the system image list; -1 none, -2 not asked yet
+    HIMAGELIST images_ = nullptr; // the system's own, never destroyed here
     Unique<NullTraits<HIMAGELIST, ImageList_Destroy>> rowHeight_;
-    POINT hot_{-1, -1};  // the cell under the pointer: row, column
+    POINT hot_{-1, -1}; // the cell under the pointer: row, column
 };
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -65,14 +65,14 @@
 
 #define IDC_GRID1 280
 #define IDC_GRID2 281
-#define IDC_FIRST_GRID_BUTTON 300  // one per row of the buttons' table
+#define IDC_FIRST_GRID_BUTTON 300 // one per row of the buttons' table
 
 #define IDC_EDITOR_LINES 290
 #define IDC_MOVE_UP 291
 #define IDC_MOVE_DOWN 292
 #define IDC_GET_PROGRAM 293
 #define IDC_ACCEPT 294
-#define IDC_FIRST_EDITOR_BUTTON 295  // one per item of the editor's menu
+#define IDC_FIRST_EDITOR_BUTTON 295 // one per item of the editor's menu
 #define IDC_LINE_MARKER 399
 #define IDC_FIRST_NAME_FIELD 400
 #define IDC_FIRST_PROGRAM_FIELD 500
@@ -105,7 +105,7 @@
 #define IDC_GROUP_LIST 702
 #define IDC_EMPTY_GROUPS 703
 #define IDC_CLOSE_GROUP 704
-#define IDC_FIRST_BROWSER_CHOICE 710  // three of each
+#define IDC_FIRST_BROWSER_CHOICE 710 // three of each
 #define IDC_FIRST_BROWSER_PATH 713
 #define IDC_FIRST_BROWSE_BROWSER 716
 #define IDC_EDIT_FRAME 720
@@ -115,6 +115,6 @@
 #define IDC_EDIT_REJECT 724
 #define IDC_EDIT_NAME_LABEL 725
 #define IDC_EDIT_SITE_LABEL 726
-#define IDC_FIRST_WEB_BUTTON 730  // one per row of the window's buttons' table
+#define IDC_FIRST_WEB_BUTTON 730 // one per row of the window's buttons' table
 
 #define IDD_WALLPAPER 111

@@ -9,11 +9,12 @@ namespace {
 // Enough pixels for a faithful average of any bitmap, however large.
 constexpr int kSamplesPerSide = 256;
 
-}  // namespace
+} // namespace
 
 std::optional<SkinColours> ColoursOfBitmap(HBITMAP bitmap) {
     BITMAP info{};
-    if (!GetObjectW(bitmap, sizeof info, &info) || info.bmWidth <= 0 || info.bmHeight <= 0) return std::nullopt;
+    if (!GetObjectW(bitmap, sizeof info, &info) || info.bmWidth <= 0 || info.bmHeight <= 0)
+        return std::nullopt;
     const int width = info.bmWidth, height = info.bmHeight;
     const int rowStep = std::max(1, height / kSamplesPerSide), columnStep = std::max(1, width / kSamplesPerSide);
     // The format describes the whole bitmap, so the start line counts in it: with
@@ -23,36 +24,41 @@ std::optional<SkinColours> ColoursOfBitmap(HBITMAP bitmap) {
     std::vector<std::uint32_t> row(static_cast<std::size_t>(width)), samples;
     HDC dc = GetDC(nullptr);
     for (int y = 0; y < height; y += rowStep) {
-        if (!GetDIBits(dc, bitmap, static_cast<UINT>(y), 1, row.data(), &format, DIB_RGB_COLORS)) continue;
-        for (int x = 0; x < width; x += columnStep) samples.push_back(row[static_cast<std::size_t>(x)]);
+        if (!GetDIBits(dc, bitmap, static_cast<UINT>(y), 1, row.data(), &format, DIB_RGB_COLORS))
+            continue;
+        for (int x = 0; x < width; x += columnStep)
+            samples.push_back(row[static_cast<std::size_t>(x)]);
     }
     ReleaseDC(nullptr, dc);
-    if (samples.empty()) return std::nullopt;
+    if (samples.empty())
+        return std::nullopt;
     return SkinColoursOf(samples);
 }
 
-void FillColour(HDC dc, const RECT& area, Colour colour) {
+void FillColour(HDC dc, const RECT &area, Colour colour) {
     SetDCBrushColor(dc, colour);
     FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
-void FrameColour(HDC dc, const RECT& area, Colour colour) {
+void FrameColour(HDC dc, const RECT &area, Colour colour) {
     SetDCBrushColor(dc, colour);
     FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
-void PaintHighlight(HDC dc, const RECT& area, const MenuColours& colours) {
+void PaintHighlight(HDC dc, const RECT &area, const MenuColours &colours) {
     FillColour(dc, area, colours.highlight);
     FrameColour(dc, area, colours.frame);
 }
 
-bool Skin::load(const std::wstring& path) {
+bool Skin::load(const std::wstring &path) {
     UniqueBitmap bitmap(static_cast<HBITMAP>(
         LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
-    if (!bitmap) return false;
+    if (!bitmap)
+        return false;
     const auto colours = ColoursOfBitmap(bitmap.get());
     UniqueBrush brush(CreatePatternBrush(bitmap.get()));
-    if (!colours || !brush) return false;
+    if (!colours || !brush)
+        return false;
     bitmap_ = std::move(bitmap);
     brush_ = std::move(brush);
     colours_ = colours;
@@ -60,10 +66,13 @@ bool Skin::load(const std::wstring& path) {
 }
 
 void Skin::join(HWND window) {
-    if (std::find(windows_.begin(), windows_.end(), window) == windows_.end()) windows_.push_back(window);
+    if (std::find(windows_.begin(), windows_.end(), window) == windows_.end())
+        windows_.push_back(window);
 }
 
-void Skin::leave(HWND window) { std::erase(windows_, window); }
+void Skin::leave(HWND window) {
+    std::erase(windows_, window);
+}
 
 void Skin::applyToAll() const {
     // A window may close while it repaints: walk a copy.
@@ -80,20 +89,23 @@ void Skin::paintBackground(HWND window, HDC dc) const {
 }
 
 HBRUSH Skin::controlColour(UINT message, HDC dc, HWND control) const {
-    if (!brush_) return nullptr;
-    if (message == WM_CTLCOLORDLG) return brush_.get();
+    if (!brush_)
+        return nullptr;
+    if (message == WM_CTLCOLORDLG)
+        return brush_.get();
     wchar_t className[16] = {};
     GetClassNameW(control, className, 16);
     // Edit boxes, read-only ones included, keep the system's colours.
-    if (message != WM_CTLCOLORSTATIC || lstrcmpiW(className, L"Edit") == 0) return nullptr;
+    if (message != WM_CTLCOLORSTATIC || lstrcmpiW(className, L"Edit") == 0)
+        return nullptr;
     // The tiles continue behind the label as they run in its parent.
     RECT place{};
     GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT *>(&place), 2);
     SetBrushOrgEx(dc, -place.left, -place.top, nullptr);
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, colours_->fore);
     return brush_.get();
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -21,12 +21,18 @@ inline constexpr UINT kSkinChanged = WM_APP + 0x100;
 class Skin {
 public:
     // Reads the bitmap; false, with the skin as it was, when it cannot be read.
-    bool load(const std::wstring& path);
+    bool load(const std::wstring &path);
     // The skin's colours; nothing while no skin is loaded.
-    const std::optional<SkinColours>& colours() const { return colours_; }
-    MenuColours menuColours() const { return MenuColoursFor(colours_); }
+    const std::optional<SkinColours> &colours() const {
+        return colours_;
+    }
+    MenuColours menuColours() const {
+        return MenuColoursFor(colours_);
+    }
     // The bitmap, for a preview; null while none is loaded.
-    HBITMAP bitmap() const { return bitmap_.get(); }
+    HBITMAP bitmap() const {
+        return bitmap_.get();
+    }
 
     // The open windows, in the order they opened.
     void join(HWND window);
@@ -48,12 +54,12 @@ private:
 };
 
 // Plain colour on a rectangle, and its outline, without making a brush.
-void FillColour(HDC dc, const RECT& area, Colour colour);
-void FrameColour(HDC dc, const RECT& area, Colour colour);
+void FillColour(HDC dc, const RECT &area, Colour colour);
+void FrameColour(HDC dc, const RECT &area, Colour colour);
 // The look of the item a click or Enter would run: the highlight inside its frame.
-void PaintHighlight(HDC dc, const RECT& area, const MenuColours& colours);
+void PaintHighlight(HDC dc, const RECT &area, const MenuColours &colours);
 
 // A bitmap file's colours as the skin reads them: for tests and benchmarks.
 std::optional<SkinColours> ColoursOfBitmap(HBITMAP bitmap);
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -18,16 +18,20 @@ namespace {
 
 class SkinChooser : public ModalDialog {
 public:
-    SkinChooser(App& app, Skin& skin, const SkinChooserActions& actions)
-        : ModalDialog(skin), app_(app), actions_(actions) {}
+    SkinChooser(App &app, Skin &skin, const SkinChooserActions &actions)
+        : ModalDialog(skin), app_(app), actions_(actions) {
+    }
 
 private:
-    ListBox list() const { return ListBox(GetDlgItem(hwnd(), IDC_SKIN_FILES)); }
+    ListBox list() const {
+        return ListBox(GetDlgItem(hwnd(), IDC_SKIN_FILES));
+    }
 
     // The skin files of SkinFolder; none when it is missing.
     void fillList() {
         list().clear();
-        if (app_.settings.SkinFolder.empty()) return;
+        if (app_.settings.SkinFolder.empty())
+            return;
         WIN32_FIND_DATAW found;
         const std::wstring pattern = SkinPathInFolder(app_.settings.SkinFolder, L"Skin_*.bmp");
         const UniqueFind search(FindFirstFileW(pattern.c_str(), &found));
@@ -53,15 +57,18 @@ private:
     // start-up then falls back to the default skin.
     void changeSkin() {
         const std::wstring name = selectedName();
-        if (name.empty()) return;
+        if (name.empty())
+            return;
         app_.settings.SkinFile = SkinPathInFolder(app_.settings.SkinFolder, name);
-        if (IsUsableSkin(app_.sys, app_.settings.SkinFile) && actions_.applySkin) actions_.applySkin();
+        if (IsUsableSkin(app_.sys, app_.settings.SkinFile) && actions_.applySkin)
+            actions_.applySkin();
     }
 
     void chooseFolder() {
         // Owned by the chooser, so the chooser cannot be used or closed while it is open.
         const auto folder = BrowseForFolder(hwnd(), L"Select a folder", app_.sys.currentFolder());
-        if (!folder || folder->empty()) return;
+        if (!folder || folder->empty())
+            return;
         app_.settings.SkinFolder = *folder;
         setItemText(IDC_SKIN_FOLDER, *folder);
         fillList();
@@ -72,7 +79,7 @@ private:
     void onInit() override {
         setItemText(IDC_SKIN_FOLDER, app_.settings.SkinFolder);
         fillList();
-        const std::wstring& file = app_.settings.SkinFile;
+        const std::wstring &file = app_.settings.SkinFile;
         const std::wstring name = file.substr(file.find_last_of(L'\\') + 1);
         // Names compare as the file system does: "skin_blue.BMP" selects Skin_Blue.bmp.
         list().setSelection(name.empty() ? -1 : list().findExact(name));
@@ -85,36 +92,46 @@ private:
     void onCommand(int id, int code) override {
         switch (id) {
         case IDC_SKIN_FILES:
-            if (code == LBN_SELCHANGE) showPreview();
-            if (code == LBN_DBLCLK) changeSkin();
+            if (code == LBN_SELCHANGE)
+                showPreview();
+            if (code == LBN_DBLCLK)
+                changeSkin();
             break;
         case IDOK:
-        case IDC_CHANGE_SKIN: changeSkin(); break;
-        case IDC_GET_FOLDER: chooseFolder(); break;
+        case IDC_CHANGE_SKIN:
+            changeSkin();
+            break;
+        case IDC_GET_FOLDER:
+            chooseFolder();
+            break;
         case IDC_ADJUST_SKIN:
-            if (actions_.adjustMenuColours) actions_.adjustMenuColours();
+            if (actions_.adjustMenuColours)
+                actions_.adjustMenuColours();
             break;
         case IDCANCEL:
-        case IDC_EXIT: end(IDCANCEL); break;
+        case IDC_EXIT:
+            end(IDCANCEL);
+            break;
         }
     }
 
     INT_PTR onMessage(UINT message, WPARAM, LPARAM lParam) override {
-        const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-        if (message != WM_DRAWITEM || item->CtlID != IDC_SKIN_PREVIEW) return FALSE;
+        const auto *item = reinterpret_cast<const DRAWITEMSTRUCT *>(lParam);
+        if (message != WM_DRAWITEM || item->CtlID != IDC_SKIN_PREVIEW)
+            return FALSE;
         DrawSkinPreview(*item, preview_, reinterpret_cast<HFONT>(SendMessageW(hwnd(), WM_GETFONT, 0, 0)));
         return TRUE;
     }
 
-    App& app_;
-    const SkinChooserActions& actions_;
-    Skin preview_;  // the selected skin, read but not applied
+    App &app_;
+    const SkinChooserActions &actions_;
+    Skin preview_; // the selected skin, read but not applied
 };
 
-}  // namespace
+} // namespace
 
-void ShowSkinChooser(App& app, Skin& skin, HWND owner, const SkinChooserActions& actions) {
+void ShowSkinChooser(App &app, Skin &skin, HWND owner, const SkinChooserActions &actions) {
     SkinChooser(app, skin, actions).show(owner, IDD_SKIN_CHOOSER);
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -9,6 +9,6 @@
 namespace orvane::ui {
 
 // Draws into an owner-drawn control; a skin without a bitmap says there is no preview.
-void DrawSkinPreview(const DRAWITEMSTRUCT& item, const Skin& skin, HFONT font);
+void DrawSkinPreview(const DRAWITEMSTRUCT &item, const Skin &skin, HFONT font);
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -10,4 +10,5 @@
 #define ORVANE_TEXT_OF_(number) #number
 #define ORVANE_TEXT_OF(number) ORVANE_TEXT_OF_(number)
 #define ORVANE_VERSION_TEXT                                                                                            \
-    ORVANE_TEXT_OF(ORVANE_VERSION_MAJOR) "." ORVANE_TEXT_OF(ORVANE_VERSION_MINOR) "." ORVANE_TEXT_OF(ORVANE_VERSION_PATCH)
+    ORVANE_TEXT_OF(ORVANE_VERSION_MAJOR)                                                                               \
+    "." ORVANE_TEXT_OF(ORVANE_VERSION_MINOR) "." ORVANE_TEXT_OF(ORVANE_VERSION_PATCH)

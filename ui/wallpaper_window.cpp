@@ -17,7 +17,7 @@ namespace orvane::ui {
 namespace {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
-constexpr int kLinePixels = 40;  // one arrow key or wheel notch's worth, at 96 DPI
+constexpr int kLinePixels = 40; // one arrow key or wheel notch's worth, at 96 DPI
 // Posted at the start: the picture, and any message about it, come once the window is up.
 constexpr UINT kShowPicture = WM_APP + 1;
 // Posted when the cover was minimised after all: it covers the screen again.
@@ -29,8 +29,8 @@ struct ScrollKey {
     int bar, code;
 };
 constexpr ScrollKey kScrollKeys[] = {
-    {VK_UP, SB_VERT, SB_LINEUP},      {VK_DOWN, SB_VERT, SB_LINEDOWN},   {VK_LEFT, SB_HORZ, SB_LINEUP},
-    {VK_RIGHT, SB_HORZ, SB_LINEDOWN}, {VK_PRIOR, SB_VERT, SB_PAGEUP},    {VK_NEXT, SB_VERT, SB_PAGEDOWN},
+    {VK_UP, SB_VERT, SB_LINEUP},      {VK_DOWN, SB_VERT, SB_LINEDOWN}, {VK_LEFT, SB_HORZ, SB_LINEUP},
+    {VK_RIGHT, SB_HORZ, SB_LINEDOWN}, {VK_PRIOR, SB_VERT, SB_PAGEUP},  {VK_NEXT, SB_VERT, SB_PAGEDOWN},
     {VK_HOME, SB_VERT, SB_TOP},       {VK_END, SB_VERT, SB_BOTTOM},
 };
 
@@ -38,7 +38,8 @@ HWND openWallpaper = nullptr;
 
 class WallpaperWindow : public ModalDialog {
 public:
-    WallpaperWindow(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
+    WallpaperWindow(App &app, Skin &skin) : ModalDialog(skin), app_(app) {
+    }
 
 private:
     void onInit() override {
@@ -53,16 +54,19 @@ private:
     // The primary monitor, all of it, with no frame: other monitors are left as they are.
     void cover() {
         // The template's caption gives the window its title but must not be drawn.
-        SetWindowLongPtrW(hwnd(), GWL_STYLE, GetWindowLongPtrW(hwnd(), GWL_STYLE) & ~(WS_CAPTION | WS_THICKFRAME | DS_MODALFRAME));
+        SetWindowLongPtrW(hwnd(), GWL_STYLE,
+                          GetWindowLongPtrW(hwnd(), GWL_STYLE) & ~(WS_CAPTION | WS_THICKFRAME | DS_MODALFRAME));
         SetWindowLongPtrW(hwnd(), GWL_EXSTYLE,
-                          GetWindowLongPtrW(hwnd(), GWL_EXSTYLE) & ~(WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE));
+                          GetWindowLongPtrW(hwnd(), GWL_EXSTYLE) &
+                              ~(WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE));
         SetWindowPos(hwnd(), HWND_TOPMOST, 0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
                      SWP_FRAMECHANGED);
     }
 
     // Until the password lets the user out, nothing moves, sizes or hides the cover.
-    void pin(WINDOWPOS& position) const {
-        if (leaving_ || IsIconic(hwnd())) return;
+    void pin(WINDOWPOS &position) const {
+        if (leaving_ || IsIconic(hwnd()))
+            return;
         position.x = position.y = 0;
         position.cx = GetSystemMetrics(SM_CXSCREEN);
         position.cy = GetSystemMetrics(SM_CYSCREEN);
@@ -80,7 +84,7 @@ private:
         return {client.right, client.bottom};
     }
 
-    void showPicture(const std::wstring& path) {
+    void showPicture(const std::wstring &path) {
         offset_.x = offset_.y = 0;
         picture_.reset();
         ShowScrollBar(hwnd(), SB_BOTH, FALSE);
@@ -101,17 +105,19 @@ private:
     void layout() {
         ShowScrollBar(hwnd(), SB_BOTH, FALSE);
         const UINT dpi = WindowDpi(hwnd());
-        bars_ = stretched_ || !picture_ ? ScrollLayout{false, false, clientSize()}
-                                        : LayoutAtNaturalSize(image_, clientSize(), SystemMetricForDpi(SM_CXVSCROLL, dpi),
-                                                              SystemMetricForDpi(SM_CYHSCROLL, dpi));
+        bars_ = stretched_ || !picture_
+                    ? ScrollLayout{false, false, clientSize()}
+                    : LayoutAtNaturalSize(image_, clientSize(), SystemMetricForDpi(SM_CXVSCROLL, dpi),
+                                          SystemMetricForDpi(SM_CYHSCROLL, dpi));
         setBar(SB_HORZ, bars_.horizontal, image_.width, bars_.view.width, offset_.x);
         setBar(SB_VERT, bars_.vertical, image_.height, bars_.view.height, offset_.y);
         InvalidateRect(hwnd(), nullptr, FALSE);
     }
 
-    void setBar(int bar, bool shown, int image, int view, int& offset) {
+    void setBar(int bar, bool shown, int image, int view, int &offset) {
         offset = shown ? ClampOffset(offset, image, view) : 0;
-        if (!shown) return;
+        if (!shown)
+            return;
         ShowScrollBar(hwnd(), bar, TRUE);
         SCROLLINFO info{sizeof info, SIF_ALL, 0, image - 1, static_cast<UINT>(view), offset, 0};
         SetScrollInfo(hwnd(), bar, &info, TRUE);
@@ -125,24 +131,38 @@ private:
 
     void scroll(int bar, int code) {
         const bool across = bar == SB_HORZ;
-        if (!(across ? bars_.horizontal : bars_.vertical)) return;
-        int& offset = across ? offset_.x : offset_.y;
+        if (!(across ? bars_.horizontal : bars_.vertical))
+            return;
+        int &offset = across ? offset_.x : offset_.y;
         const int image = across ? image_.width : image_.height, view = across ? bars_.view.width : bars_.view.height;
         const int line = ScaledForWindow(kLinePixels, hwnd());
         SCROLLINFO info{sizeof info, SIF_TRACKPOS, 0, 0, 0, 0, 0};
         switch (code) {
-        case SB_LINEUP: offset -= line; break;
-        case SB_LINEDOWN: offset += line; break;
-        case SB_PAGEUP: offset -= view; break;
-        case SB_PAGEDOWN: offset += view; break;
-        case SB_TOP: offset = 0; break;
-        case SB_BOTTOM: offset = image; break;
+        case SB_LINEUP:
+            offset -= line;
+            break;
+        case SB_LINEDOWN:
+            offset += line;
+            break;
+        case SB_PAGEUP:
+            offset -= view;
+            break;
+        case SB_PAGEDOWN:
+            offset += view;
+            break;
+        case SB_TOP:
+            offset = 0;
+            break;
+        case SB_BOTTOM:
+            offset = image;
+            break;
         case SB_THUMBTRACK:
         case SB_THUMBPOSITION:
             GetScrollInfo(hwnd(), bar, &info);
             offset = info.nTrackPos;
             break;
-        default: return;
+        default:
+            return;
         }
         offset = ClampOffset(offset, image, view);
         SetScrollPos(hwnd(), bar, offset, TRUE);
@@ -150,7 +170,8 @@ private:
     }
 
     void wheel(int bar, int delta) {
-        for (int notch = 0; notch < std::abs(delta) / WHEEL_DELTA * 3; ++notch) scroll(bar, delta > 0 ? SB_LINEUP : SB_LINEDOWN);
+        for (int notch = 0; notch < std::abs(delta) / WHEEL_DELTA * 3; ++notch)
+            scroll(bar, delta > 0 ? SB_LINEUP : SB_LINEDOWN);
     }
 
     void paint() {
@@ -165,7 +186,8 @@ private:
             if (stretched_) {
                 SetStretchBltMode(dc, HALFTONE);
                 SetBrushOrgEx(dc, 0, 0, nullptr);
-                StretchBlt(dc, 0, 0, client.right, client.bottom, source.get(), 0, 0, image_.width, image_.height, SRCCOPY);
+                StretchBlt(dc, 0, 0, client.right, client.bottom, source.get(), 0, 0, image_.width, image_.height,
+                           SRCCOPY);
             } else {
                 drawn.left = PictureOrigin(image_.width, client.right, offset_.x);
                 drawn.top = PictureOrigin(image_.height, client.bottom, offset_.y);
@@ -182,28 +204,39 @@ private:
 
     // Every way out comes here: the box asks each time, also with no password set.
     void tryToLeave() {
-        if (asking_) return;
+        if (asking_)
+            return;
         asking_ = true;
         const std::wstring typed = ShowInputBox(app_, skin(), hwnd(), kPasswordPrompt, L"");
         asking_ = false;
-        if (ReturnAllowed(app_, typed)) leave();
+        if (ReturnAllowed(app_, typed))
+            leave();
     }
 
     void onCommand(int id, int) override {
-        if (id == IDCANCEL) return tryToLeave();  // Esc
-        if (id < static_cast<int>(kFirstMenuCommand)) return;
-        const WallpaperCommand* command = FindWallpaperCommand(menu_.caption(hwnd(), static_cast<UINT>(id)));
+        if (id == IDCANCEL)
+            return tryToLeave(); // Esc
+        if (id < static_cast<int>(kFirstMenuCommand))
+            return;
+        const WallpaperCommand *command = FindWallpaperCommand(menu_.caption(hwnd(), static_cast<UINT>(id)));
         switch (command ? *command : WallpaperCommand::None) {
-        case WallpaperCommand::Time: ShowClockWindow(skin(), hwnd()); break;
-        case WallpaperCommand::Stretch: toggleStretch(); break;
-        case WallpaperCommand::Exit: tryToLeave(); break;
-        case WallpaperCommand::None: break;
+        case WallpaperCommand::Time:
+            ShowClockWindow(skin(), hwnd());
+            break;
+        case WallpaperCommand::Stretch:
+            toggleStretch();
+            break;
+        case WallpaperCommand::Exit:
+            tryToLeave();
+            break;
+        case WallpaperCommand::None:
+            break;
         }
     }
 
-    bool translate(MSG& message) override {
+    bool translate(MSG &message) override {
         if (message.message == WM_KEYDOWN)
-            for (const ScrollKey& key : kScrollKeys)
+            for (const ScrollKey &key : kScrollKeys)
                 if (message.wParam == key.key) {
                     scroll(key.bar, key.code);
                     return true;
@@ -212,30 +245,45 @@ private:
     }
 
     INT_PTR onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (menu_.dialogMessage(hwnd(), skin(), message, wParam, lParam)) return TRUE;
+        if (menu_.dialogMessage(hwnd(), skin(), message, wParam, lParam))
+            return TRUE;
         switch (message) {
-        case WM_CLOSE:  // Alt+F4, the system menu, or another program
-        case WM_LBUTTONDOWN: tryToLeave(); return TRUE;
-        case WM_ERASEBKGND: SetWindowLongPtrW(hwnd(), DWLP_MSGRESULT, TRUE); return TRUE;  // painted whole
-        case WM_PAINT: paint(); return TRUE;
+        case WM_CLOSE: // Alt+F4, the system menu, or another program
+        case WM_LBUTTONDOWN:
+            tryToLeave();
+            return TRUE;
+        case WM_ERASEBKGND:
+            SetWindowLongPtrW(hwnd(), DWLP_MSGRESULT, TRUE);
+            return TRUE; // painted whole
+        case WM_PAINT:
+            paint();
+            return TRUE;
         case WM_HSCROLL:
-        case WM_VSCROLL: scroll(message == WM_HSCROLL ? SB_HORZ : SB_VERT, LOWORD(wParam)); return TRUE;
+        case WM_VSCROLL:
+            scroll(message == WM_HSCROLL ? SB_HORZ : SB_VERT, LOWORD(wParam));
+            return TRUE;
         case WM_MOUSEWHEEL:
             wheel(GET_KEYSTATE_WPARAM(wParam) & MK_SHIFT ? SB_HORZ : SB_VERT, GET_WHEEL_DELTA_WPARAM(wParam));
             return TRUE;
-        case WM_MOUSEHWHEEL: wheel(SB_HORZ, -GET_WHEEL_DELTA_WPARAM(wParam)); return TRUE;
+        case WM_MOUSEHWHEEL:
+            wheel(SB_HORZ, -GET_WHEEL_DELTA_WPARAM(wParam));
+            return TRUE;
         case WM_DISPLAYCHANGE:
             cover();
             [[fallthrough]];
         case kShowPicture:
-            ShowWindow(hwnd(), SW_SHOW);  // the dialog manager would show it only once idle
-            if (const auto path = WallpaperImage(app_)) showPicture(*path);
+            ShowWindow(hwnd(), SW_SHOW); // the dialog manager would show it only once idle
+            if (const auto path = WallpaperImage(app_))
+                showPicture(*path);
             return TRUE;
         // When Windows ends the session the wallpaper goes without a question. Windows says it is
         // shutting down, or sends its question first; a message another program posts is no such end.
-        case WM_QUERYENDSESSION: sessionEnding_ = InSendMessage(); return FALSE;
+        case WM_QUERYENDSESSION:
+            sessionEnding_ = InSendMessage();
+            return FALSE;
         case WM_ENDSESSION:
-            if (wParam && (sessionEnding_ || GetSystemMetrics(SM_SHUTTINGDOWN))) leave();
+            if (wParam && (sessionEnding_ || GetSystemMetrics(SM_SHUTTINGDOWN)))
+                leave();
             sessionEnding_ = false;
             return TRUE;
         case WM_SYSCOMMAND:
@@ -243,37 +291,47 @@ private:
             case SC_MOVE:
             case SC_SIZE:
             case SC_MINIMIZE:
-            case SC_MAXIMIZE: return TRUE;  // the cover stays as it is
+            case SC_MAXIMIZE:
+                return TRUE; // the cover stays as it is
             }
             return FALSE;
-        case WM_WINDOWPOSCHANGING: pin(*reinterpret_cast<WINDOWPOS*>(lParam)); return FALSE;
+        case WM_WINDOWPOSCHANGING:
+            pin(*reinterpret_cast<WINDOWPOS *>(lParam));
+            return FALSE;
         case WM_SIZE:
-            if (wParam == SIZE_MINIMIZED && !leaving_) PostMessageW(hwnd(), kCoverAgain, 0, 0);
+            if (wParam == SIZE_MINIMIZED && !leaving_)
+                PostMessageW(hwnd(), kCoverAgain, 0, 0);
             return FALSE;
         case kCoverAgain:
             ShowWindow(hwnd(), SW_RESTORE);
             cover();
             return TRUE;
-        case WM_DESTROY: openWallpaper = nullptr; return FALSE;
+        case WM_DESTROY:
+            openWallpaper = nullptr;
+            return FALSE;
         }
         return FALSE;
     }
 
-    App& app_;
+    App &app_;
     MenuBar menu_{WallpaperMenuRows()};
     UniqueBitmap picture_;
     PixelSize image_;
     struct {
         int x = 0, y = 0;
-    } offset_;  // the scroll position, at natural size
+    } offset_; // the scroll position, at natural size
     bool stretched_ = false, asking_ = false, leaving_ = false, sessionEnding_ = false;
     ScrollLayout bars_;
 };
 
-}  // namespace
+} // namespace
 
-void ShowWallpaper(App& app, Skin& skin, HWND owner) { WallpaperWindow(app, skin).show(owner, IDD_WALLPAPER); }
+void ShowWallpaper(App &app, Skin &skin, HWND owner) {
+    WallpaperWindow(app, skin).show(owner, IDD_WALLPAPER);
+}
 
-HWND OpenWallpaper() { return openWallpaper; }
+HWND OpenWallpaper() {
+    return openWallpaper;
+}
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -16,34 +16,47 @@ namespace {
 // The old runtime's numbers for a file that could not be created or written.
 FileError RuntimeFileError(DWORD error) {
     switch (error) {
-    case ERROR_FILE_NOT_FOUND: return 53;
-    case ERROR_PATH_NOT_FOUND: return 76;
+    case ERROR_FILE_NOT_FOUND:
+        return 53;
+    case ERROR_PATH_NOT_FOUND:
+        return 76;
     case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION: return 70;
+    case ERROR_LOCK_VIOLATION:
+        return 70;
     case ERROR_DISK_FULL:
-    case ERROR_HANDLE_DISK_FULL: return 61;
-    default: return 75;
+    case ERROR_HANDLE_DISK_FULL:
+        return 61;
+    default:
+        return 75;
     }
 }
 
 HKEY RootKey(RegistryRoot root) {
     switch (root) {
-    case RegistryRoot::ClassesRoot: return HKEY_CLASSES_ROOT;
-    case RegistryRoot::CurrentUser: return HKEY_CURRENT_USER;
-    case RegistryRoot::LocalMachine: return HKEY_LOCAL_MACHINE;
-    case RegistryRoot::Users: return HKEY_USERS;
+    case RegistryRoot::ClassesRoot:
+        return HKEY_CLASSES_ROOT;
+    case RegistryRoot::CurrentUser:
+        return HKEY_CURRENT_USER;
+    case RegistryRoot::LocalMachine:
+        return HKEY_LOCAL_MACHINE;
+    case RegistryRoot::Users:
+        return HKEY_USERS;
     }
     return HKEY_LOCAL_MACHINE;
 }
 
-const wchar_t* OrNull(const std::wstring& text) { return text.empty() ? nullptr : text.c_str(); }
+const wchar_t *OrNull(const std::wstring &text) {
+    return text.empty() ? nullptr : text.c_str();
+}
 
-std::optional<std::wstring> FindExecutable(const std::wstring& name) {
+std::optional<std::wstring> FindExecutable(const std::wstring &name) {
     wchar_t found[MAX_PATH * 4];
     const DWORD length = SearchPathW(nullptr, name.c_str(), L".exe", MAX_PATH * 4, found, nullptr);
-    if (length == 0 || length >= MAX_PATH * 4) return std::nullopt;
+    if (length == 0 || length >= MAX_PATH * 4)
+        return std::nullopt;
     const DWORD attributes = GetFileAttributesW(found);
-    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY)) return std::nullopt;
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY))
+        return std::nullopt;
     return std::wstring(found, length);
 }
 
@@ -51,29 +64,33 @@ std::optional<std::wstring> FindExecutable(const std::wstring& name) {
 // unquoted path with blanks: ever longer prefixes up to a blank. Naming it
 // separately keeps the command line exactly as built; some systems quote the
 // program path in it otherwise.
-std::optional<std::wstring> ProgramOfCommandLine(const std::wstring& commandLine) {
+std::optional<std::wstring> ProgramOfCommandLine(const std::wstring &commandLine) {
     const std::size_t start = commandLine.find_first_not_of(L" \t");
-    if (start == std::wstring::npos) return std::nullopt;
+    if (start == std::wstring::npos)
+        return std::nullopt;
     if (commandLine[start] == L'"') {
         const std::size_t close = commandLine.find(L'"', start + 1);
         return FindExecutable(commandLine.substr(start + 1, close == std::wstring::npos ? close : close - start - 1));
     }
     for (std::size_t blank = start;;) {
         blank = commandLine.find(L' ', blank + 1);
-        if (auto found = FindExecutable(commandLine.substr(start, blank - start))) return found;
-        if (blank == std::wstring::npos) return std::nullopt;
+        if (auto found = FindExecutable(commandLine.substr(start, blank - start)))
+            return found;
+        if (blank == std::wstring::npos)
+            return std::nullopt;
     }
 }
 
-}  // namespace
+} // namespace
 
 bool Win32System::remember(bool ok) {
     lastError_ = ok ? 0 : GetLastError();
     return ok;
 }
 
-bool Win32System::fileExists(const std::wstring& path) {
-    if (path.empty()) return false;
+bool Win32System::fileExists(const std::wstring &path) {
+    if (path.empty())
+        return false;
     // A path without wildcards matches only itself: its attributes answer at a
     // fraction of a search's cost.
     if (path.find_first_of(L"*?") == std::wstring::npos) {
@@ -85,39 +102,46 @@ bool Win32System::fileExists(const std::wstring& path) {
     return search && !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-bool Win32System::pathExists(const std::wstring& path) {
+bool Win32System::pathExists(const std::wstring &path) {
     return !path.empty() && GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-std::optional<std::string> Win32System::readFile(const std::wstring& path, std::size_t maxBytes) {
-    UniqueFile file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!remember(bool(file))) return std::nullopt;
+std::optional<std::string> Win32System::readFile(const std::wstring &path, std::size_t maxBytes) {
+    UniqueFile file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!remember(bool(file)))
+        return std::nullopt;
     LARGE_INTEGER size{};
-    if (!remember(GetFileSizeEx(file.get(), &size))) return std::nullopt;
+    if (!remember(GetFileSizeEx(file.get(), &size)))
+        return std::nullopt;
     std::string bytes;
     bytes.resize(static_cast<std::size_t>(std::min<ULONGLONG>(static_cast<ULONGLONG>(size.QuadPart), maxBytes)));
     std::size_t done = 0;
     while (done < bytes.size()) {
         const DWORD chunk = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, 1u << 30));
         DWORD got = 0;
-        if (!remember(ReadFile(file.get(), bytes.data() + done, chunk, &got, nullptr)) || got == 0) break;
+        if (!remember(ReadFile(file.get(), bytes.data() + done, chunk, &got, nullptr)) || got == 0)
+            break;
         done += got;
     }
     bytes.resize(done);
     return bytes;
 }
 
-FileError Win32System::writeFile(const std::wstring& path, const std::string& bytes) {
-    UniqueFile file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!remember(bool(file))) return RuntimeFileError(lastError_);
+FileError Win32System::writeFile(const std::wstring &path, const std::string &bytes) {
+    UniqueFile file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!remember(bool(file)))
+        return RuntimeFileError(lastError_);
     DWORD written = 0;
     if (!remember(WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)))
         return RuntimeFileError(lastError_);
     return written == bytes.size() ? 0 : RuntimeFileError(ERROR_DISK_FULL);
 }
 
-bool Win32System::deleteFile(const std::wstring& path) { return remember(DeleteFileW(path.c_str())); }
+bool Win32System::deleteFile(const std::wstring &path) {
+    return remember(DeleteFileW(path.c_str()));
+}
 
 std::wstring Win32System::currentFolder() {
     std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
@@ -125,24 +149,26 @@ std::wstring Win32System::currentFolder() {
     return folder;
 }
 
-bool Win32System::setCurrentFolder(const std::wstring& folder) {
+bool Win32System::setCurrentFolder(const std::wstring &folder) {
     return !folder.empty() && remember(SetCurrentDirectoryW(folder.c_str()));
 }
 
 namespace {
 
-DateTime FromSystemTime(const SYSTEMTIME& t) {
+DateTime FromSystemTime(const SYSTEMTIME &t) {
     return {t.wYear, t.wMonth, t.wDay, t.wDayOfWeek, t.wHour, t.wMinute, t.wSecond};
 }
 
-SYSTEMTIME ToSystemTime(const DateTime& t) {
-    const auto w = [](int value) { return static_cast<WORD>(value); };
+SYSTEMTIME ToSystemTime(const DateTime &t) {
+    const auto w = [](int value) {
+        return static_cast<WORD>(value);
+    };
     return {w(t.year), w(t.month), w(t.dayOfWeek), w(t.day), w(t.hour), w(t.minute), w(t.second), 0};
 }
 
-}  // namespace
+} // namespace
 
-std::optional<FileFacts> Win32System::fileFacts(const std::wstring& path) {
+std::optional<FileFacts> Win32System::fileFacts(const std::wstring &path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
     if (!remember(GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) ||
         (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
@@ -160,15 +186,15 @@ DateTime Win32System::now() {
     return FromSystemTime(local);
 }
 
-std::wstring Win32System::dateText(const DateTime& moment, const std::wstring& picture) {
+std::wstring Win32System::dateText(const DateTime &moment, const std::wstring &picture) {
     const SYSTEMTIME t = ToSystemTime(moment);
     wchar_t text[128] = {};
-    const int length = GetDateFormatW(LOCALE_USER_DEFAULT, picture.empty() ? DATE_SHORTDATE : 0, &t,
-                                      OrNull(picture), text, 128);
+    const int length =
+        GetDateFormatW(LOCALE_USER_DEFAULT, picture.empty() ? DATE_SHORTDATE : 0, &t, OrNull(picture), text, 128);
     return std::wstring(text, length > 0 ? static_cast<std::size_t>(length - 1) : 0);
 }
 
-std::wstring Win32System::timeText(const DateTime& moment, const std::wstring& picture) {
+std::wstring Win32System::timeText(const DateTime &moment, const std::wstring &picture) {
     const SYSTEMTIME t = ToSystemTime(moment);
     wchar_t text[128] = {};
     const int length = GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &t, OrNull(picture), text, 128);
@@ -181,11 +207,12 @@ std::wstring Win32System::thousandsSeparator() {
     return std::wstring(separator, length > 0 ? static_cast<std::size_t>(length - 1) : 0);
 }
 
-bool Win32System::setClipboardText(const std::wstring& text) {
+bool Win32System::setClipboardText(const std::wstring &text) {
     const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-    if (!memory) return false;
-    if (void* target = GlobalLock(memory)) {
+    if (!memory)
+        return false;
+    if (void *target = GlobalLock(memory)) {
         std::memcpy(target, text.c_str(), bytes);
         GlobalUnlock(memory);
     }
@@ -196,16 +223,18 @@ bool Win32System::setClipboardText(const std::wstring& text) {
     EmptyClipboard();
     const bool set = SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
     CloseClipboard();
-    if (!set) GlobalFree(memory);  // the clipboard owns it only when taken
+    if (!set)
+        GlobalFree(memory); // the clipboard owns it only when taken
     return set;
 }
 
 std::wstring Win32System::lastErrorDescription() {
-    if (lastError_ == 0) return {};
-    wchar_t* text = nullptr;
-    const DWORD length = FormatMessageW(
-        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-        lastError_, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    if (lastError_ == 0)
+        return {};
+    wchar_t *text = nullptr;
+    const DWORD length =
+        FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                       nullptr, lastError_, 0, reinterpret_cast<wchar_t *>(&text), 0, nullptr);
     std::wstring description(text ? text : L"", length);
     LocalFree(text);
     while (!description.empty() && (description.back() == L'\n' || description.back() == L'\r'))
@@ -213,16 +242,18 @@ std::wstring Win32System::lastErrorDescription() {
     return description;
 }
 
-std::wstring Win32System::fromAnsi(const std::string& bytes) {
-    if (bytes.empty()) return {};
+std::wstring Win32System::fromAnsi(const std::string &bytes) {
+    if (bytes.empty())
+        return {};
     const int size = static_cast<int>(bytes.size());
     std::wstring text(MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, nullptr, 0), L'\0');
     MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), static_cast<int>(text.size()));
     return text;
 }
 
-std::string Win32System::toAnsi(const std::wstring& text) {
-    if (text.empty()) return {};
+std::string Win32System::toAnsi(const std::wstring &text) {
+    if (text.empty())
+        return {};
     const int size = static_cast<int>(text.size());
     // No best fit: a character the code page lacks becomes "?", never a look-alike
     // that would name another file.
@@ -233,7 +264,7 @@ std::string Win32System::toAnsi(const std::wstring& text) {
     return bytes;
 }
 
-bool Win32System::shellExecute(const ShellExecuteRequest& request) {
+bool Win32System::shellExecute(const ShellExecuteRequest &request) {
     SHELLEXECUTEINFOW info{};
     info.cbSize = sizeof info;
     info.hwnd = ToHwnd(request.owner);
@@ -245,8 +276,8 @@ bool Win32System::shellExecute(const ShellExecuteRequest& request) {
     return remember(ShellExecuteExW(&info));
 }
 
-std::optional<long long> Win32System::startCommandLine(const std::wstring& commandLine, int showCode) {
-    std::wstring writable = commandLine;  // CreateProcessW may write into it
+std::optional<long long> Win32System::startCommandLine(const std::wstring &commandLine, int showCode) {
+    std::wstring writable = commandLine; // CreateProcessW may write into it
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
@@ -260,8 +291,8 @@ std::optional<long long> Win32System::startCommandLine(const std::wstring& comma
     return process.dwProcessId;
 }
 
-long long Win32System::shellVerb(WindowRef owner, const std::wstring& verb, const std::wstring& file,
-                                 const std::wstring& directory, int showCode) {
+long long Win32System::shellVerb(WindowRef owner, const std::wstring &verb, const std::wstring &file,
+                                 const std::wstring &directory, int showCode) {
     const auto result = reinterpret_cast<INT_PTR>(
         ShellExecuteW(ToHwnd(owner), verb.c_str(), file.c_str(), nullptr, OrNull(directory), showCode));
     remember(result > 32);
@@ -281,11 +312,11 @@ BOOL CALLBACK AddTopLevelWindow(HWND handle, LPARAM context) {
     window.exStyle = static_cast<std::uint32_t>(GetWindowLongW(handle, GWL_EXSTYLE));
     wchar_t title[256];
     window.title.assign(title, static_cast<std::size_t>(GetWindowTextW(handle, title, 256)));
-    reinterpret_cast<std::vector<TopLevelWindow>*>(context)->push_back(std::move(window));
+    reinterpret_cast<std::vector<TopLevelWindow> *>(context)->push_back(std::move(window));
     return TRUE;
 }
 
-}  // namespace
+} // namespace
 
 std::vector<TopLevelWindow> Win32System::topLevelWindows() {
     std::vector<TopLevelWindow> windows;
@@ -293,18 +324,21 @@ std::vector<TopLevelWindow> Win32System::topLevelWindows() {
     return windows;
 }
 
-bool Win32System::bringToForeground(WindowRef window) { return SetForegroundWindow(ToHwnd(window)); }
+bool Win32System::bringToForeground(WindowRef window) {
+    return SetForegroundWindow(ToHwnd(window));
+}
 
 WindowRef Win32System::windowAbove(WindowRef window) {
     return window ? ToRef(GetWindow(ToHwnd(window), GW_HWNDPREV)) : 0;
 }
 
 void Win32System::restoreIfMinimised(WindowRef window) {
-    if (window && IsIconic(ToHwnd(window))) OpenIcon(ToHwnd(window));
+    if (window && IsIconic(ToHwnd(window)))
+        OpenIcon(ToHwnd(window));
 }
 
-std::optional<std::wstring> Win32System::registryString(RegistryRoot root, const std::wstring& subKey,
-                                                        const std::wstring& valueName) {
+std::optional<std::wstring> Win32System::registryString(RegistryRoot root, const std::wstring &subKey,
+                                                        const std::wstring &valueName) {
     HKEY opened = nullptr;
     if (RegOpenKeyExW(RootKey(root), subKey.c_str(), 0, KEY_QUERY_VALUE, &opened) != ERROR_SUCCESS)
         return std::nullopt;
@@ -315,7 +349,7 @@ std::optional<std::wstring> Win32System::registryString(RegistryRoot root, const
         return std::nullopt;
     std::wstring value(size / sizeof(wchar_t) + 1, L'\0');
     DWORD bytes = static_cast<DWORD>(value.size() * sizeof(wchar_t));
-    if (RegQueryValueExW(key.get(), valueName.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(value.data()),
+    if (RegQueryValueExW(key.get(), valueName.c_str(), nullptr, &type, reinterpret_cast<BYTE *>(value.data()),
                          &bytes) != ERROR_SUCCESS)
         return std::nullopt;
     return value.substr(0, value.find(L'\0'));
@@ -323,10 +357,12 @@ std::optional<std::wstring> Win32System::registryString(RegistryRoot root, const
 
 std::wstring Win32System::specialFolder(int csidl) {
     PIDLIST_ABSOLUTE list = nullptr;
-    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &list))) return {};
+    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &list)))
+        return {};
     UniqueItemList owned(list);
     std::wstring path(MAX_PATH, L'\0');
-    if (!SHGetPathFromIDListW(owned.get(), path.data())) return {};
+    if (!SHGetPathFromIDListW(owned.get(), path.data()))
+        return {};
     return path;
 }
 
@@ -335,34 +371,41 @@ OsVersion Win32System::osVersion() {
     info.dwOSVersionInfoSize = sizeof info;
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-    if (!GetVersionExW(&info)) return {};
+    if (!GetVersionExW(&info))
+        return {};
 #pragma GCC diagnostic pop
     return {static_cast<int>(info.dwMajorVersion), static_cast<int>(info.dwMinorVersion)};
 }
 
-MessageAnswer Win32System::showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon icon,
+MessageAnswer Win32System::showMessage(const std::wstring &text, const std::wstring &caption, MessageIcon icon,
                                        MessageButtons buttons) {
     static constexpr UINT kIcons[] = {0, MB_ICONHAND, MB_ICONEXCLAMATION, MB_ICONQUESTION, MB_ICONASTERISK};
     static constexpr UINT kButtons[] = {MB_OK, MB_OKCANCEL, MB_YESNO, MB_YESNOCANCEL, MB_YESNO | MB_DEFBUTTON2};
     switch (MessageBoxW(owner(), text.c_str(), caption.c_str(),
                         kIcons[static_cast<int>(icon)] | kButtons[static_cast<int>(buttons)])) {
-    case IDCANCEL: return MessageAnswer::Cancel;
-    case IDYES: return MessageAnswer::Yes;
-    case IDNO: return MessageAnswer::No;
-    default: return MessageAnswer::Ok;
+    case IDCANCEL:
+        return MessageAnswer::Cancel;
+    case IDYES:
+        return MessageAnswer::Yes;
+    case IDNO:
+        return MessageAnswer::No;
+    default:
+        return MessageAnswer::Ok;
     }
 }
 
 HWND Win32System::owner() const {
-    if (HWND active = GetActiveWindow()) return active;
+    if (HWND active = GetActiveWindow())
+        return active;
     return messageOwner_ && IsWindowVisible(messageOwner_) ? messageOwner_ : nullptr;
 }
 
 // The filter's "|" separators become the NULs the dialog expects.
-std::optional<std::wstring> Win32System::chooseFile(const FileRequest& request) {
+std::optional<std::wstring> Win32System::chooseFile(const FileRequest &request) {
     std::wstring filter = request.filter + L'|';
-    for (wchar_t& c : filter)
-        if (c == L'|') c = L'\0';
+    for (wchar_t &c : filter)
+        if (c == L'|')
+            c = L'\0';
     // Room for long paths; a preset that does not fit is cut, never overrun.
     std::wstring name(32768, L'\0');
     request.preset.copy(name.data(), std::min(request.preset.size(), name.size() - 1));
@@ -379,29 +422,36 @@ std::optional<std::wstring> Win32System::chooseFile(const FileRequest& request) 
     dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | (request.save ? OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST : 0);
     // Bound at first use: loading the common dialogs at start-up costs every
     // start time and memory for a dialog most sessions never open.
-    using FileDialogFn = BOOL(WINAPI*)(OPENFILENAMEW*);
+    using FileDialogFn = BOOL(WINAPI *)(OPENFILENAMEW *);
     static const UniqueModule library(LoadLibraryW(L"comdlg32.dll"));
-    const auto bind = [](const char* name) {
-        return reinterpret_cast<FileDialogFn>(reinterpret_cast<void*>(GetProcAddress(library.get(), name)));
+    const auto bind = [](const char *name) {
+        return reinterpret_cast<FileDialogFn>(reinterpret_cast<void *>(GetProcAddress(library.get(), name)));
     };
     static const FileDialogFn getOpenFileName = bind("GetOpenFileNameW"), getSaveFileName = bind("GetSaveFileNameW");
     const FileDialogFn show = request.save ? getSaveFileName : getOpenFileName;
-    EnterComApartment();  // the dialog browses the shell's folders
-    if (!show || !show(&dialog)) return std::nullopt;
+    EnterComApartment(); // the dialog browses the shell's folders
+    if (!show || !show(&dialog))
+        return std::nullopt;
     return std::wstring(name.c_str());
 }
 
-void Win32System::beep() { MessageBeep(MB_OK); }
+void Win32System::beep() {
+    MessageBeep(MB_OK);
+}
 
-void Win32System::showWaitCursor() { SetCursor(LoadCursorW(nullptr, IDC_WAIT)); }
+void Win32System::showWaitCursor() {
+    SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+}
 
-void Win32System::restoreCursor() { SetCursor(LoadCursorW(nullptr, IDC_ARROW)); }
+void Win32System::restoreCursor() {
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+}
 
 void Win32System::processPendingEvents() {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
-            PostQuitMessage(static_cast<int>(message.wParam));  // leave it for the main loop
+            PostQuitMessage(static_cast<int>(message.wParam)); // leave it for the main loop
             return;
         }
         // A key typed meanwhile goes where the modal loop would send it: to
@@ -416,4 +466,4 @@ void Win32System::processPendingEvents() {
     }
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

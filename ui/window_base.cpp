@@ -7,10 +7,11 @@ void WindowBase::registerClass(WNDCLASSEXW wc) {
     wc.lpfnWndProc = &WindowBase::route;
     wc.hInstance = GetModuleHandleW(nullptr);
     WNDCLASSEXW existing{};
-    if (!GetClassInfoExW(wc.hInstance, wc.lpszClassName, &existing)) RegisterClassExW(&wc);
+    if (!GetClassInfoExW(wc.hInstance, wc.lpszClassName, &existing))
+        RegisterClassExW(&wc);
 }
 
-bool WindowBase::create(DWORD exStyle, const wchar_t* className, const wchar_t* title, DWORD style, HWND owner) {
+bool WindowBase::create(DWORD exStyle, const wchar_t *className, const wchar_t *title, DWORD style, HWND owner) {
     return CreateWindowExW(exStyle, className, title, style, 0, 0, 0, 0, owner, nullptr, GetModuleHandleW(nullptr),
                            this) != nullptr;
 }
@@ -20,19 +21,20 @@ LRESULT WindowBase::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CALLBACK WindowBase::route(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* self = reinterpret_cast<WindowBase*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto *self = reinterpret_cast<WindowBase *>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message == WM_NCCREATE) {
-        self = static_cast<WindowBase*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        self = static_cast<WindowBase *>(reinterpret_cast<CREATESTRUCTW *>(lParam)->lpCreateParams);
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
         self->window_.reset(window);
     }
-    if (!self) return DefWindowProcW(window, message, wParam, lParam);
+    if (!self)
+        return DefWindowProcW(window, message, wParam, lParam);
     const LRESULT result = self->handleMessage(message, wParam, lParam);
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-        self->window_.release();  // already destroyed
+        self->window_.release(); // already destroyed
     }
     return result;
 }
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -10,16 +10,18 @@ namespace orvane::ui {
 class WindowBase {
 public:
     WindowBase() = default;
-    WindowBase(const WindowBase&) = delete;
-    WindowBase& operator=(const WindowBase&) = delete;
+    WindowBase(const WindowBase &) = delete;
+    WindowBase &operator=(const WindowBase &) = delete;
     virtual ~WindowBase() = default;
 
-    HWND hwnd() const { return window_.get(); }
+    HWND hwnd() const {
+        return window_.get();
+    }
 
 protected:
     // Registers the class once per process; the class routes to handleMessage.
     static void registerClass(WNDCLASSEXW wc);
-    bool create(DWORD exStyle, const wchar_t* className, const wchar_t* title, DWORD style, HWND owner);
+    bool create(DWORD exStyle, const wchar_t *className, const wchar_t *title, DWORD style, HWND owner);
 
     virtual LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -28,4 +30,4 @@ private:
     UniqueWindow window_;
 };
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

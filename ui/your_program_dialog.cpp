@@ -11,24 +11,31 @@ namespace {
 
 class YourProgramDialog : public ModalDialog {
 public:
-    YourProgramDialog(App& app, Skin& skin) : ModalDialog(skin), app_(app) {}
+    YourProgramDialog(App &app, Skin &skin) : ModalDialog(skin), app_(app) {
+    }
 
 private:
-    void onInit() override { setItemText(IDC_PROGRAM, app_.settings.YourProgram); }
+    void onInit() override {
+        setItemText(IDC_PROGRAM, app_.settings.YourProgram);
+    }
     void onCommand(int id, int code) override {
-        if (id == IDC_PROGRAM && code == EN_CHANGE) app_.settings.YourProgram = itemText(IDC_PROGRAM);
+        if (id == IDC_PROGRAM && code == EN_CHANGE)
+            app_.settings.YourProgram = itemText(IDC_PROGRAM);
         if (id == IDC_BROWSE && ChooseIntoSetting(app_, Choice::YourProgram))
             setItemText(IDC_PROGRAM, app_.settings.YourProgram);
         // A missing program is reported and the dialog stays open.
-        if (id == IDOK && !StartYourProgram(app_)) return;
+        if (id == IDOK && !StartYourProgram(app_))
+            return;
         ModalDialog::onCommand(id, code);
     }
 
-    App& app_;
+    App &app_;
 };
 
-}  // namespace
+} // namespace
 
-void ShowYourProgram(App& app, Skin& skin, HWND owner) { YourProgramDialog(app, skin).show(owner, IDD_YOUR_PROGRAM); }
+void ShowYourProgram(App &app, Skin &skin, HWND owner) {
+    YourProgramDialog(app, skin).show(owner, IDD_YOUR_PROGRAM);
+}
 
-}  // namespace orvane::ui
+} // namespace orvane::ui

@@ -11,12 +11,12 @@ namespace orvane {
 
 struct PixelSize {
     int width = 0, height = 0;
-    bool operator==(const PixelSize&) const = default;
+    bool operator==(const PixelSize &) const = default;
 };
 
 struct PixelRect {
     int left = 0, top = 0, width = 0, height = 0;
-    bool operator==(const PixelRect&) const = default;
+    bool operator==(const PixelRect &) const = default;
 };
 
 // Where an image is drawn in the target so that it keeps its proportions and
@@ -46,8 +46,8 @@ bool TooLargeToDecode(PixelSize image);
 // which may then need its own bar too.
 struct ScrollLayout {
     bool horizontal = false, vertical = false;
-    PixelSize view;  // the window's inside, less the bars shown
-    bool operator==(const ScrollLayout&) const = default;
+    PixelSize view; // the window's inside, less the bars shown
+    bool operator==(const ScrollLayout &) const = default;
 };
 ScrollLayout LayoutAtNaturalSize(PixelSize image, PixelSize client, int barWidth, int barHeight);
 
@@ -57,4 +57,4 @@ int ClampOffset(int offset, int image, int view);
 // by the scroll position when it is larger.
 int PictureOrigin(int image, int view, int offset);
 
-}  // namespace orvane
+} // namespace orvane

@@ -24,19 +24,24 @@ constexpr auto kMenu = std::to_array<MenuRow>({
 constexpr auto kCommands = std::to_array<C>({C::None, C::Time, C::Stretch, C::None, C::Exit});
 static_assert(kMenu.size() == kCommands.size());
 
-}  // namespace
+} // namespace
 
-std::span<const MenuRow> WallpaperMenuRows() { return kMenu; }
+std::span<const MenuRow> WallpaperMenuRows() {
+    return kMenu;
+}
 
-const WallpaperCommand* FindWallpaperCommand(std::wstring_view caption) {
+const WallpaperCommand *FindWallpaperCommand(std::wstring_view caption) {
     return CommandOfCaption<C>(kMenu, kCommands, caption);
 }
 
-std::wstring PictureErrorText(const std::wstring& path) { return L"Error loading picture " + path; }
+std::wstring PictureErrorText(const std::wstring &path) {
+    return L"Error loading picture " + path;
+}
 
-std::optional<std::wstring> WallpaperImage(App& app) {
-    const std::wstring& path = app.settings.WallpaperFile;
-    if (!path.empty() && app.sys.fileExists(path)) return path;
+std::optional<std::wstring> WallpaperImage(App &app) {
+    const std::wstring &path = app.settings.WallpaperFile;
+    if (!path.empty() && app.sys.fileExists(path))
+        return path;
     ReportFileNotFound(app, path);
     return std::nullopt;
 }
@@ -46,12 +51,13 @@ bool StartsStretched(PixelSize image, PixelSize window, int wallpaperStretch) {
     return smaller == (wallpaperStretch == 1);
 }
 
-bool ReturnAllowed(App& app, const std::wstring& typed) {
-    const std::wstring& password = app.settings.ReturnPassword;
-    if (password.empty() || (!typed.empty() && TrimBlanks(typed) == password)) return true;
+bool ReturnAllowed(App &app, const std::wstring &typed) {
+    const std::wstring &password = app.settings.ReturnPassword;
+    if (password.empty() || (!typed.empty() && TrimBlanks(typed) == password))
+        return true;
     app.sys.showMessage(L"Wrong password!\r\n\r\n\"" + typed + L"\"", kProgramTitle, MessageIcon::Critical,
                         MessageButtons::Ok);
     return false;
 }
 
-}  // namespace orvane
+} // namespace orvane

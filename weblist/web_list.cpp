@@ -43,25 +43,28 @@ constexpr auto kMenu = std::to_array<MenuRow>({
     {kGroup, L"keyOG", L"&Open group window", L"k26", Plain(F(9))},
 });
 constexpr auto kCommands = std::to_array<C>({
-    C::None, C::LoadChecked, C::OpenList, C::SaveList, C::Info, C::None, C::Exit,
-    C::None, C::EditItem, C::None, C::AddItem, C::Duplicate, C::Delete, C::InsertSeparator, C::MoveUp, C::MoveDown,
-    C::None, C::AddToGroup, C::OpenGroupWindow,
+    C::None,     C::LoadChecked, C::OpenList,   C::SaveList,        C::Info,
+    C::None,     C::Exit,        C::None,       C::EditItem,        C::None,
+    C::AddItem,  C::Duplicate,   C::Delete,     C::InsertSeparator, C::MoveUp,
+    C::MoveDown, C::None,        C::AddToGroup, C::OpenGroupWindow,
 });
 static_assert(kMenu.size() == kCommands.size());
 
-MessageAnswer Ask(App& app, const std::wstring& text, MessageButtons buttons) {
+MessageAnswer Ask(App &app, const std::wstring &text, MessageButtons buttons) {
     return app.sys.showMessage(text, kProgramTitle, MessageIcon::Question, buttons);
 }
 
-void Say(App& app, const std::wstring& text, MessageIcon icon) {
+void Say(App &app, const std::wstring &text, MessageIcon icon) {
     app.sys.showMessage(text, kProgramTitle, icon, MessageButtons::Ok);
 }
 
-}  // namespace
+} // namespace
 
-std::span<const MenuRow> WebListMenuRows() { return kMenu; }
+std::span<const MenuRow> WebListMenuRows() {
+    return kMenu;
+}
 
-const WebListCommand* FindWebListCommand(std::wstring_view caption) {
+const WebListCommand *FindWebListCommand(std::wstring_view caption) {
     return CommandOfCaption<C>(kMenu, kCommands, caption);
 }
 
@@ -69,9 +72,11 @@ std::wstring WebList::caption() const {
     return L"Website list :  " + app_.settings.WebListFile + L"  ( " + std::to_wstring(rows.size()) + L" entries )";
 }
 
-bool WebList::load() { return read(app_.settings.WebListFile); }
+bool WebList::load() {
+    return read(app_.settings.WebListFile);
+}
 
-bool WebList::read(const std::wstring& path) {
+bool WebList::read(const std::wstring &path) {
     const WholeFile file = ReadWholeFile(app_.sys, path);
     // Refused before anything changes: the window keeps the list it had, and its name.
     if (file.tooLarge) {
@@ -88,12 +93,14 @@ bool WebList::read(const std::wstring& path) {
         return false;
     }
     content = ParseWebList(app_.sys.fromAnsi(*file.bytes));
-    if (!rows.empty()) makeCurrent(0);
+    if (!rows.empty())
+        makeCurrent(0);
     return true;
 }
 
 bool WebList::save() {
-    if (rows.empty()) return false;
+    if (rows.empty())
+        return false;
     // The old writer counted rows in 16 bits and broke off half-way; refuse before anything is touched.
     const auto text = FormatWebList(content);
     if (!text) {
@@ -110,7 +117,7 @@ bool WebList::save() {
         Say(app_, L"Data grid contains no entries !", MessageIcon::Exclamation);
         return false;
     }
-    std::wstring& path = app_.settings.WebListFile;
+    std::wstring &path = app_.settings.WebListFile;
     path = *chosen;
     DeleteFileIfPresent(app_, path);
     if (app_.sys.writeFile(path, app_.sys.toAnsi(*text)) != 0) {
@@ -124,22 +131,25 @@ bool WebList::save() {
 bool WebList::openList() {
     const FolderKeeper keeper(app_.sys);
     const auto chosen = app_.sys.chooseFile({.title = L"Load list of websites", .filter = kListFilter});
-    if (!chosen || chosen->empty()) return false;
+    if (!chosen || chosen->empty())
+        return false;
     return read(*chosen);
 }
 
 bool WebList::confirmClose() {
     while (changed) {
         const MessageAnswer answer = Ask(app_, L"Save list before exiting this level ? ", MessageButtons::YesNoCancel);
-        if (answer == MessageAnswer::Cancel) return false;
-        if (answer != MessageAnswer::Yes) break;
+        if (answer == MessageAnswer::Cancel)
+            return false;
+        if (answer != MessageAnswer::Yes)
+            break;
         save();
     }
     return true;
 }
 
 FileInformation WebList::information() {
-    const std::wstring& path = app_.settings.WebListFile;
+    const std::wstring &path = app_.settings.WebListFile;
     FileInformation info = InformationOf(app_, path);
     info.fileName = BackslashFileName(path).substr(1) + L"    ( " + std::to_wstring(rows.size()) + L" items )";
     info.folder = app_.sys.currentFolder();
@@ -150,7 +160,8 @@ std::optional<std::wstring> WebList::chooseBrowser() {
     const FolderKeeper keeper(app_.sys);
     const auto chosen = app_.sys.chooseFile(
         {.title = L"Specify custom browser", .filter = L"Programs (*.exe)|*.exe|All files (*.*)|*.*"});
-    if (!chosen || chosen->empty()) return std::nullopt;
+    if (!chosen || chosen->empty())
+        return std::nullopt;
     return chosen;
 }
 
@@ -165,7 +176,8 @@ void WebList::append(std::wstring name, std::wstring address) {
 }
 
 void WebList::makeCurrent(int row) {
-    for (WebRow& each : rows) each.selected = false;
+    for (WebRow &each : rows)
+        each.selected = false;
     rows[static_cast<std::size_t>(row)].selected = true;
     current = row;
 }
@@ -173,7 +185,8 @@ void WebList::makeCurrent(int row) {
 // Names and addresses move down below the current row; check marks, keys and
 // selections stay with their places.
 bool WebList::addItem() {
-    if (refuseInGroupPanel()) return false;
+    if (refuseInGroupPanel())
+        return false;
     const std::size_t at = std::min(static_cast<std::size_t>(current + 1), rows.size());
     append(L"", L"");
     for (std::size_t j = rows.size() - 1; j > at; --j) {
@@ -189,7 +202,8 @@ bool WebList::addItem() {
 
 // The copy goes to the end of the list.
 bool WebList::duplicate() {
-    if (refuseInGroupPanel()) return false;
+    if (refuseInGroupPanel())
+        return false;
     const bool any = current >= 0;
     append(any ? rows[static_cast<std::size_t>(current)].name : L"",
            any ? rows[static_cast<std::size_t>(current)].address : L"");
@@ -199,7 +213,8 @@ bool WebList::duplicate() {
 }
 
 bool WebList::insertSeparator() {
-    if (refuseInGroupPanel()) return false;
+    if (refuseInGroupPanel())
+        return false;
     append(std::wstring(kSeparatorMarker), L"");
     makeCurrent(static_cast<int>(rows.size()) - 1);
     changed = true;
@@ -210,7 +225,8 @@ bool WebList::deleteSelected() {
     std::size_t count = selectedGroups.size();
     if (!groupShown) {
         count = 0;
-        for (const WebRow& row : rows) count += row.selected;
+        for (const WebRow &row : rows)
+            count += row.selected;
     }
     if (count == 0) {
         Say(app_, L"No items selected!", MessageIcon::Exclamation);
@@ -221,19 +237,22 @@ bool WebList::deleteSelected() {
         return false;
     if (groupShown) {
         for (std::size_t entry : selectedGroups)
-            if (entry < groups.size()) groups[entry] = kDeletionMark;
+            if (entry < groups.size())
+                groups[entry] = kDeletionMark;
     } else {
-        for (WebRow& row : rows)
-            if (row.selected) row.name = row.address = kDeletionMark;
+        for (WebRow &row : rows)
+            if (row.selected)
+                row.name = row.address = kDeletionMark;
     }
     changed = true;
     return true;
 }
 
 bool WebList::move(int step) {
-    int& at = groupShown ? currentGroup : current;
+    int &at = groupShown ? currentGroup : current;
     const int size = static_cast<int>(groupShown ? groups.size() : rows.size());
-    if (at < 0 || at >= size || at + step < 0 || at + step >= size) return false;
+    if (at < 0 || at >= size || at + step < 0 || at + step >= size)
+        return false;
     const auto from = static_cast<std::size_t>(at), to = static_cast<std::size_t>(at + step);
     if (groupShown) {
         std::swap(groups[from], groups[to]);
@@ -250,7 +269,7 @@ bool WebList::move(int step) {
 bool WebList::addToGroup() {
     std::wstring entry;
     int count = 0;
-    for (const WebRow& row : rows)
+    for (const WebRow &row : rows)
         if (row.checked && !row.isSeparator()) {
             entry += row.address + L" ";
             ++count;
@@ -266,7 +285,8 @@ bool WebList::addToGroup() {
 }
 
 bool WebList::emptyGroups() {
-    if (Ask(app_, L"Empty list now?", MessageButtons::YesNo) != MessageAnswer::Yes) return false;
+    if (Ask(app_, L"Empty list now?", MessageButtons::YesNo) != MessageAnswer::Yes)
+        return false;
     groups.clear();
     selectedGroups.clear();
     currentGroup = -1;
@@ -274,25 +294,29 @@ bool WebList::emptyGroups() {
 }
 
 void WebList::toggleCheck(int row) {
-    if (row >= 0 && row < static_cast<int>(rows.size())) rows[static_cast<std::size_t>(row)].checked ^= true;
+    if (row >= 0 && row < static_cast<int>(rows.size()))
+        rows[static_cast<std::size_t>(row)].checked ^= true;
 }
 
 std::optional<WebEdit> WebList::startEdit() {
     if (groupShown) {
-        if (currentGroup < 0 || currentGroup >= static_cast<int>(groups.size())) return std::nullopt;
+        if (currentGroup < 0 || currentGroup >= static_cast<int>(groups.size()))
+            return std::nullopt;
         editing_ = Editing::Group;
         editIndex_ = currentGroup;
         return WebEdit{L" Edit group of websites ", L"", groups[static_cast<std::size_t>(currentGroup)], true};
     }
-    if (current < 0 || current >= static_cast<int>(rows.size())) return std::nullopt;
-    const WebRow& row = rows[static_cast<std::size_t>(current)];
-    if (row.name == kSeparatorMarker) return std::nullopt;
+    if (current < 0 || current >= static_cast<int>(rows.size()))
+        return std::nullopt;
+    const WebRow &row = rows[static_cast<std::size_t>(current)];
+    if (row.name == kSeparatorMarker)
+        return std::nullopt;
     editing_ = Editing::Row;
     editIndex_ = current;
     return WebEdit{L" Text for name && website ", row.name, row.address, false};
 }
 
-bool WebList::enter(const std::wstring& name, const std::wstring& site) {
+bool WebList::enter(const std::wstring &name, const std::wstring &site) {
     if (name.empty() || site.empty()) {
         Say(app_, name.empty() ? L"Name field is empty!" : L"URL field is empty!", MessageIcon::Exclamation);
         return false;
@@ -301,14 +325,16 @@ bool WebList::enter(const std::wstring& name, const std::wstring& site) {
     return true;
 }
 
-void WebList::accept(const std::wstring& name, const std::wstring& site) {
+void WebList::accept(const std::wstring &name, const std::wstring &site) {
     const auto at = static_cast<std::size_t>(editIndex_);
-    if (editing_ == Editing::Group && at < groups.size()) groups[at] = site;
+    if (editing_ == Editing::Group && at < groups.size())
+        groups[at] = site;
     if (editing_ == Editing::Row && at < rows.size()) {
         rows[at].name = name;
         rows[at].address = site;
     }
-    if (editing_ != Editing::None) changed = true;
+    if (editing_ != Editing::None)
+        changed = true;
     editing_ = Editing::None;
 }
 
@@ -320,7 +346,7 @@ void WebList::openWebsites() {
             !groups[static_cast<std::size_t>(currentGroup)].starts_with(kSeparatorMarker))
             addresses = groups[static_cast<std::size_t>(currentGroup)];
     } else {
-        for (const WebRow& row : rows)
+        for (const WebRow &row : rows)
             if (row.checked && !row.isSeparator()) {
                 addresses += row.address + L" ";
                 ++count;
@@ -333,12 +359,14 @@ void WebList::openWebsites() {
     const bool go = count < 4 || Ask(app_, L"Load " + std::to_wstring(count) + L" selected websites from list?",
                                      MessageButtons::YesNo) == MessageAnswer::Yes;
     singleRow = false;
-    if (!go || addresses.empty()) return;
-    const Settings& s = app_.settings;
-    const std::wstring* browsers[] = {&s.WebBrowser1, &s.WebBrowser2, &s.WebBrowser3};
-    if (s.WebBrowserChoice < 1 || s.WebBrowserChoice > 3) return;
+    if (!go || addresses.empty())
+        return;
+    const Settings &s = app_.settings;
+    const std::wstring *browsers[] = {&s.WebBrowser1, &s.WebBrowser2, &s.WebBrowser3};
+    if (s.WebBrowserChoice < 1 || s.WebBrowserChoice > 3)
+        return;
     // The path stays unquoted and every address goes in the one command line.
     app_.sys.startCommandLine(*browsers[s.WebBrowserChoice - 1] + L" " + addresses, kShowNormal);
 }
 
-}  // namespace orvane
+} // namespace orvane

@@ -18,19 +18,21 @@ inline constexpr std::wstring_view kDeletionMark = L"---";
 inline constexpr std::size_t kMostSavedRows = 32767;
 
 struct WebRow {
-    std::wstring key;  // "K_" and the row count when the row was added; never shown or saved
+    std::wstring key; // "K_" and the row count when the row was added; never shown or saved
     std::wstring name, address;
     bool checked = false;
     bool selected = false;
 
-    bool isSeparator() const { return name.starts_with(kSeparatorMarker); }
-    bool operator==(const WebRow&) const = default;
+    bool isSeparator() const {
+        return name.starts_with(kSeparatorMarker);
+    }
+    bool operator==(const WebRow &) const = default;
 };
 
 struct WebListContent {
     std::vector<WebRow> rows;
     std::vector<std::wstring> groups;
-    bool operator==(const WebListContent&) const = default;
+    bool operator==(const WebListContent &) const = default;
 };
 
 // The file's text as read: lines end at CR or CR LF (a lone LF stays in its
@@ -41,6 +43,6 @@ WebListContent ParseWebList(std::wstring_view text);
 // "---", empty groups and groups marked "---" are left out; groups are trimmed,
 // and one starting ";" or "***" keeps one leading blank so that it reads back.
 // Nothing when the list has more rows than a file can hold.
-std::optional<std::wstring> FormatWebList(const WebListContent& content);
+std::optional<std::wstring> FormatWebList(const WebListContent &content);
 
-}  // namespace orvane
+} // namespace orvane

@@ -25,33 +25,59 @@ constexpr int kOperations = 20000;
 
 // A settings file as a user's machine holds it: a placed bar, Office paths,
 // browsers, one accented file name.
-const char* const kLines[] = {
-    "1440", "2880", "C:\\Users\\Anna\\Documents\\Orvane\\Deadlines.txt", "https://mail.example.org/owa/",
-    "C:\\Users\\Anna\\Documents\\Orvane\\Adressen.txt", "Tahoma", "9", "0", "0", "9600", "1200", "12632256", "32",
+const char *const kLines[] = {
+    "1440",
+    "2880",
+    "C:\\Users\\Anna\\Documents\\Orvane\\Deadlines.txt",
+    "https://mail.example.org/owa/",
+    "C:\\Users\\Anna\\Documents\\Orvane\\Adressen.txt",
+    "Tahoma",
+    "9",
+    "0",
+    "0",
+    "9600",
+    "1200",
+    "12632256",
+    "32",
     "C:\\Program Files\\Microsoft Office\\root\\Office16\\MSACCESS.EXE",
     "C:\\Program Files\\Microsoft Office\\root\\Office16\\MSPUB.EXE",
     "C:\\Program Files\\Microsoft Office\\root\\Office16\\EXCEL.EXE",
     "C:\\Program Files\\Microsoft Office\\root\\Office16\\POWERPNT.EXE",
-    "C:\\Program Files\\Microsoft Office\\root\\Office16\\WINWORD.EXE", "C:\\Program Files\\Orvane\\Skins\\Herbst.skn",
-    "C:\\Program Files\\Orvane\\Skins\\", "C:\\Program Files\\Mozilla Firefox\\firefox.exe", "2000", "3000", "6000",
-    "8000", "3", "5", "C:\\Users\\Anna\\Documents\\Orvane\\Eigene Liste.txt",
-    "C:\\Program Files\\Notepad++\\notepad++.exe", "C:\\Users\\Anna\\Pictures\\Gr\xFCne Wiese.bmp", "1", "geheim",
-    "C:\\Users\\Anna\\Documents\\Orvane\\Webseiten.txt", "C:\\Program Files\\Google\\Chrome\\Application\\chrome.exe",
+    "C:\\Program Files\\Microsoft Office\\root\\Office16\\WINWORD.EXE",
+    "C:\\Program Files\\Orvane\\Skins\\Herbst.skn",
+    "C:\\Program Files\\Orvane\\Skins\\",
+    "C:\\Program Files\\Mozilla Firefox\\firefox.exe",
+    "2000",
+    "3000",
+    "6000",
+    "8000",
+    "3",
+    "5",
+    "C:\\Users\\Anna\\Documents\\Orvane\\Eigene Liste.txt",
+    "C:\\Program Files\\Notepad++\\notepad++.exe",
+    "C:\\Users\\Anna\\Pictures\\Gr\xFCne Wiese.bmp",
+    "1",
+    "geheim",
+    "C:\\Users\\Anna\\Documents\\Orvane\\Webseiten.txt",
+    "C:\\Program Files\\Google\\Chrome\\Application\\chrome.exe",
     "C:\\Program Files (x86)\\Microsoft\\Edge\\Application\\msedge.exe",
-    "C:\\Program Files\\Mozilla Firefox\\firefox.exe", "2", "1", "19200",
+    "C:\\Program Files\\Mozilla Firefox\\firefox.exe",
+    "2",
+    "1",
+    "19200",
 };
 static_assert(std::size(kLines) == orvane::kSettingsLineCount);
 
 // Keeps the optimiser from dropping work whose result is otherwise unused.
-template <typename T>
-void Keep(const T& value) {
+template <typename T> void Keep(const T &value) {
     asm volatile("" : : "r"(&value) : "memory");
 }
 
-std::vector<std::wstring> WidenAndSplit(const std::string& bytes) {
+std::vector<std::wstring> WidenAndSplit(const std::string &bytes) {
     std::wstring text;
     text.reserve(bytes.size());
-    for (const unsigned char c : bytes) text += static_cast<wchar_t>(c);
+    for (const unsigned char c : bytes)
+        text += static_cast<wchar_t>(c);
     std::vector<std::wstring> lines;
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t end = std::min(text.find(L"\r\n", at), text.size());
@@ -61,19 +87,19 @@ std::vector<std::wstring> WidenAndSplit(const std::string& bytes) {
     return lines;
 }
 
-std::string JoinAndNarrow(const std::vector<std::wstring>& lines) {
+std::string JoinAndNarrow(const std::vector<std::wstring> &lines) {
     std::wstring text;
-    for (const auto& line : lines) {
+    for (const auto &line : lines) {
         text += line;
         text += L"\r\n";
     }
     return std::string(text.begin(), text.end());
 }
 
-template <typename Operation>
-double NanosecondsPerOperation(Operation operation) {
+template <typename Operation> double NanosecondsPerOperation(Operation operation) {
     const auto start = Clock::now();
-    for (int i = 0; i < kOperations; ++i) operation();
+    for (int i = 0; i < kOperations; ++i)
+        operation();
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / kOperations;
 }
 
@@ -82,11 +108,12 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-}  // namespace
+} // namespace
 
 int main() {
     std::string bytes;
-    for (const char* line : kLines) bytes += std::string(line) + "\r\n";
+    for (const char *line : kLines)
+        bytes += std::string(line) + "\r\n";
 
     orvane::Settings parsed;
     orvane::ApplySettingsLines(parsed, DecodeWindows1252(bytes));
@@ -102,9 +129,15 @@ int main() {
         orvane::ApplySettingsLines(settings, DecodeWindows1252(bytes));
         Keep(settings);
     };
-    const auto readBaseline = [&] { Keep(WidenAndSplit(bytes)); };
-    const auto write = [&] { Keep(EncodeWindows1252(orvane::FormatSettings(parsed))); };
-    const auto writeBaseline = [&] { Keep(JoinAndNarrow(lines)); };
+    const auto readBaseline = [&] {
+        Keep(WidenAndSplit(bytes));
+    };
+    const auto write = [&] {
+        Keep(EncodeWindows1252(orvane::FormatSettings(parsed)));
+    };
+    const auto writeBaseline = [&] {
+        Keep(JoinAndNarrow(lines));
+    };
 
     // Rounds alternate the two sides so that drift in the machine hits both.
     std::vector<double> times[4];
@@ -115,7 +148,8 @@ int main() {
         times[3].push_back(NanosecondsPerOperation(writeBaseline));
     }
     double median[4];
-    for (int i = 0; i < 4; ++i) median[i] = Median(times[i]);
+    for (int i = 0; i < 4; ++i)
+        median[i] = Median(times[i]);
 
     std::printf("settings file: %zu lines, %zu bytes; medians of %d rounds of %d operations\n", std::size(kLines),
                 bytes.size(), kRounds, kOperations);

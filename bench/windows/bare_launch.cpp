@@ -23,26 +23,29 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         ShellExecuteExW(&request);
         return 0;
     }
-    if (message == WM_DESTROY) PostQuitMessage(0);
+    if (message == WM_DESTROY)
+        PostQuitMessage(0);
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-}  // namespace
+} // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     int count = 0;
-    wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (count < 2) return 2;
+    wchar_t **arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (count < 2)
+        return 2;
     g_program = arguments[1];
     WNDCLASSW windowClass{};
     windowClass.lpfnWndProc = WindowProc;
     windowClass.hInstance = instance;
     windowClass.lpszClassName = L"Orvane.Bench.BareLaunch";
     RegisterClassW(&windowClass);
-    HWND window = CreateWindowW(windowClass.lpszClassName, L"Bare launch", WS_OVERLAPPEDWINDOW, 0, 0, 300, 100,
-                                nullptr, nullptr, instance, nullptr);
+    HWND window = CreateWindowW(windowClass.lpszClassName, L"Bare launch", WS_OVERLAPPEDWINDOW, 0, 0, 300, 100, nullptr,
+                                nullptr, instance, nullptr);
     ShowWindow(window, SW_SHOWNORMAL);
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        DispatchMessageW(&message);
     return 0;
 }

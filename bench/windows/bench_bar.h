@@ -12,7 +12,7 @@
 #include "win_support.h"
 
 struct BenchBar {
-    explicit BenchBar(const std::wstring& folder) {
+    explicit BenchBar(const std::wstring &folder) {
         orvane::testsupport::WriteBytes(folder + L"\\Orvane.ini", orvane::bench::StripSettings());
         app.ProgramFolder = folder;
         opened = bar.open();

@@ -29,11 +29,13 @@ inline constexpr DWORD kExitTimeoutMs = 10000;
 class Child {
 public:
     Child() = default;
-    Child(const Child&) = delete;
-    Child& operator=(const Child&) = delete;
+    Child(const Child &) = delete;
+    Child &operator=(const Child &) = delete;
     ~Child() {
-        if (info.hThread) CloseHandle(info.hThread);
-        if (!info.hProcess) return;
+        if (info.hThread)
+            CloseHandle(info.hThread);
+        if (!info.hProcess)
+            return;
         if (WaitForSingleObject(info.hProcess, 0) == WAIT_TIMEOUT) {
             TerminateProcess(info.hProcess, 1);
             WaitForSingleObject(info.hProcess, kExitTimeoutMs);
@@ -42,7 +44,7 @@ public:
     }
 
     // Starts the program in the folder; false when it could not be started.
-    bool start(const std::wstring& program, const std::wstring& folder, const std::wstring& arguments = L"") {
+    bool start(const std::wstring &program, const std::wstring &folder, const std::wstring &arguments = L"") {
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
         std::wstring commandLine = L"\"" + program + L"\"" + (arguments.empty() ? L"" : L" " + arguments);
@@ -57,14 +59,15 @@ public:
 // start-up shows no message.
 inline std::string NeutralSettings() {
     std::string text;
-    for (int line = 0; line < 39; ++line) text += "0\r\n";
+    for (int line = 0; line < 39; ++line)
+        text += "0\r\n";
     return text;
 }
 
 // The same, with the icon strip shown (lines 38 and 39) at icons of 480
 // twips (line 13): the bar as most users see it.
 inline std::string StripSettings() {
-    std::string text = NeutralSettings();  // "0\r\n" on every line
+    std::string text = NeutralSettings(); // "0\r\n" on every line
     text.replace(38 * 3, 1, "19200");
     text.replace(37 * 3, 1, "1");
     text.replace(12 * 3, 1, "480");
@@ -77,13 +80,16 @@ struct Arguments {
     int runs;
     std::wstring orvane;
 };
-inline std::optional<Arguments> ParseArguments(int argc, wchar_t** argv, const char* name, int runs, int fewest) {
+inline std::optional<Arguments> ParseArguments(int argc, wchar_t **argv, const char *name, int runs, int fewest) {
     Arguments given{runs, testsupport::EnvironmentPath(L"ORVANE_EXE")};
     for (int i = 1; i < argc; ++i) {
-        if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc) given.runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
-        else given.orvane = argv[i];
+        if (std::wstring(argv[i]) == L"--runs" && i + 1 < argc)
+            given.runs = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
+        else
+            given.orvane = argv[i];
     }
-    if (!given.orvane.empty() && given.runs >= fewest) return given;
+    if (!given.orvane.empty() && given.runs >= fewest)
+        return given;
     std::printf("usage: %s [--runs N] [orvane.exe]   (N >= %d, default %d; or set ORVANE_EXE)\n", name, fewest, runs);
     return std::nullopt;
 }
@@ -98,7 +104,8 @@ inline double Median(std::vector<double> values) {
 inline std::optional<double> PeakWorkingSetMiB(HANDLE process) {
     PROCESS_MEMORY_COUNTERS memory{};
     memory.cb = sizeof memory;
-    if (!GetProcessMemoryInfo(process, &memory, sizeof memory)) return std::nullopt;
+    if (!GetProcessMemoryInfo(process, &memory, sizeof memory))
+        return std::nullopt;
     return static_cast<double>(memory.PeakWorkingSetSize) / (1024.0 * 1024.0);
 }
 
@@ -109,25 +116,25 @@ inline double MillisecondsSince(Clock::time_point started) {
 }
 
 // The milliseconds one call of the step takes.
-template <typename Step>
-double MillisecondsOf(Step&& step) {
+template <typename Step> double MillisecondsOf(Step &&step) {
     const auto started = Clock::now();
     step();
     return MillisecondsSince(started);
 }
 
-inline double MedianOf(int runs, const std::function<double()>& run) {
+inline double MedianOf(int runs, const std::function<double()> &run) {
     std::vector<double> times;
-    for (int i = 0; i < runs; ++i) times.push_back(run());
+    for (int i = 0; i < runs; ++i)
+        times.push_back(run());
     return Median(times);
 }
 
 // The command identifier of the first menu row with this caption, numbered
 // from `first` as the menu bar numbers its items; 0 when no row has it.
-template <typename Rows>
-unsigned MenuCommandOf(const Rows& rows, std::wstring_view caption, unsigned first) {
+template <typename Rows> unsigned MenuCommandOf(const Rows &rows, std::wstring_view caption, unsigned first) {
     for (std::size_t i = 0; i < rows.size(); ++i)
-        if (rows[i].caption == caption) return first + static_cast<unsigned>(i);
+        if (rows[i].caption == caption)
+            return first + static_cast<unsigned>(i);
     return 0;
 }
 
@@ -139,12 +146,14 @@ public:
     explicit FirstIdle(HWND owner) : owner_(owner) {
         SetWindowSubclass(owner_, &FirstIdle::watch, 1, reinterpret_cast<DWORD_PTR>(this));
     }
-    ~FirstIdle() { RemoveWindowSubclass(owner_, &FirstIdle::watch, 1); }
-    FirstIdle(const FirstIdle&) = delete;
-    FirstIdle& operator=(const FirstIdle&) = delete;
+    ~FirstIdle() {
+        RemoveWindowSubclass(owner_, &FirstIdle::watch, 1);
+    }
+    FirstIdle(const FirstIdle &) = delete;
+    FirstIdle &operator=(const FirstIdle &) = delete;
 
     // `open` returns when the dialog has closed again.
-    double time(std::function<bool(HWND)> ready, const std::function<void()>& open) {
+    double time(std::function<bool(HWND)> ready, const std::function<void()> &open) {
         ready_ = std::move(ready);
         milliseconds_ = 0;
         started_ = Clock::now();
@@ -154,7 +163,7 @@ public:
 
 private:
     static LRESULT CALLBACK watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
-        auto& self = *reinterpret_cast<FirstIdle*>(data);
+        auto &self = *reinterpret_cast<FirstIdle *>(data);
         if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX && self.milliseconds_ == 0) {
             HWND dialog = reinterpret_cast<HWND>(lParam);
             if (self.ready_(dialog)) {
@@ -171,4 +180,4 @@ private:
     double milliseconds_ = 0;
 };
 
-}  // namespace orvane::bench
+} // namespace orvane::bench

@@ -13,32 +13,36 @@ namespace {
 using orvane::bench::HandleCounts;
 
 HandleCounts Count() {
-    using IconSize = BOOL(WINAPI*)(HICON, UINT, LONG*, LONG*);
+    using IconSize = BOOL(WINAPI *)(HICON, UINT, LONG *, LONG *);
     static const auto iconSize = reinterpret_cast<IconSize>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"win32u.dll"), "NtUserGetIconSize")));
+        reinterpret_cast<void *>(GetProcAddress(GetModuleHandleW(L"win32u.dll"), "NtUserGetIconSize")));
     HandleCounts counts;
-    const auto handle = [](unsigned index) { return reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(index)); };
-    for (unsigned index = 0; index < 0x10000; ++index) counts.gdi += GetObjectType(handle(index)) != 0;
+    const auto handle = [](unsigned index) {
+        return reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(index));
+    };
+    for (unsigned index = 0; index < 0x10000; ++index)
+        counts.gdi += GetObjectType(handle(index)) != 0;
     for (unsigned index = 0x20; index < 0x10000; index += 2) {
         LONG width = 0, height = 0;
         counts.menus += IsMenu(static_cast<HMENU>(handle(index)));
         counts.icons += iconSize && iconSize(static_cast<HICON>(handle(index)), 0, &width, &height);
         counts.accelerators += CopyAcceleratorTableW(static_cast<HACCEL>(handle(index)), nullptr, 0) > 0;
     }
-    if (!iconSize) counts.icons = -1;
+    if (!iconSize)
+        counts.icons = -1;
     return counts;
 }
 
-}  // namespace
+} // namespace
 
 extern "C" __declspec(dllexport) LRESULT CALLBACK CountHandlesHook(int code, WPARAM wParam, LPARAM lParam) {
     static const UINT request = RegisterWindowMessageW(orvane::bench::kCountMessage);
-    auto* message = reinterpret_cast<MSG*>(lParam);
+    auto *message = reinterpret_cast<MSG *>(lParam);
     if (code == HC_ACTION && wParam == PM_REMOVE && message->message == request) {
         const HandleCounts counts = Count();
         if (HANDLE map = OpenFileMappingW(FILE_MAP_WRITE, FALSE, orvane::bench::kCountsName)) {
-            if (void* view = MapViewOfFile(map, FILE_MAP_WRITE, 0, 0, sizeof counts)) {
-                *static_cast<HandleCounts*>(view) = counts;
+            if (void *view = MapViewOfFile(map, FILE_MAP_WRITE, 0, 0, sizeof counts)) {
+                *static_cast<HandleCounts *>(view) = counts;
                 UnmapViewOfFile(view);
             }
             CloseHandle(map);

@@ -15,4 +15,4 @@ struct HandleCounts {
     long gdi = 0, menus = 0, icons = 0, accelerators = 0;
 };
 
-}  // namespace orvane::bench
+} // namespace orvane::bench

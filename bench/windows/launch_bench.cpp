@@ -41,30 +41,36 @@ double TimeOneStart(HWND window, UINT message, WPARAM wParam, HANDLE started) {
     ResetEvent(started);
     const auto asked = Clock::now();
     PostMessageW(window, message, wParam, 0);
-    if (WaitForSingleObject(started, 10000) != WAIT_OBJECT_0) return -1;
+    if (WaitForSingleObject(started, 10000) != WAIT_OBJECT_0)
+        return -1;
     return std::chrono::duration<double, std::milli>(Clock::now() - asked).count();
 }
 
-HWND WaitForWindow(DWORD processId, const wchar_t* windowClass) {
+HWND WaitForWindow(DWORD processId, const wchar_t *windowClass) {
     HWND window = nullptr;
-    ts::WaitFor([&] { return (window = ts::FindProcessWindow(processId, windowClass)) != nullptr; },
-                std::chrono::seconds(30));
+    ts::WaitFor(
+        [&] {
+            return (window = ts::FindProcessWindow(processId, windowClass)) != nullptr;
+        },
+        std::chrono::seconds(30));
     return window;
 }
 
-}  // namespace
+} // namespace
 
-int wmain(int argc, wchar_t** argv) {
+int wmain(int argc, wchar_t **argv) {
     const auto arguments = ParseArguments(argc, argv, "launch_bench", 31, 3);
-    if (!arguments) return 2;
+    if (!arguments)
+        return 2;
     const int runs = arguments->runs;
-    const std::wstring& orvanePath = arguments->orvane;
+    const std::wstring &orvanePath = arguments->orvane;
 
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"launch bench");
     const std::wstring tool = std::wstring(SuiteToolOf(Tool::FileManager).program) + L".exe";
     ts::CopyInto(ts::WindowsPath(orvanePath), folder, L"orvane.exe");
     ts::CopyInto(ts::ExeFolder() + L"\\bare_launch.exe", folder);
-    ts::CopyInto(ts::ExeFolder() + L"\\started.exe", folder, tool);  // beside orvane.exe, where the path rules look first
+    ts::CopyInto(ts::ExeFolder() + L"\\started.exe", folder,
+                 tool); // beside orvane.exe, where the path rules look first
     ts::WriteBytes(folder + L"\\Orvane.ini", NeutralSettings());
 
     HANDLE started = CreateEventW(nullptr, TRUE, FALSE, L"Local\\Orvane.Bench.Started");
@@ -90,7 +96,8 @@ int wmain(int argc, wchar_t** argv) {
             std::printf("error: a started program never signalled\n");
             return 1;
         }
-        if (run == 0) continue;  // the warm-up fills the caches for both
+        if (run == 0)
+            continue; // the warm-up fills the caches for both
         times[0].push_back(menu);
         times[1].push_back(plain);
         std::printf("run %d: menu command %6.1f ms | bare ShellExecuteExW %6.1f ms\n", run, menu, plain);

@@ -19,7 +19,7 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-}  // namespace
+} // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
 #ifdef ORVANE_SAME_DLLS
@@ -35,12 +35,14 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     windowClass.lpszClassName = kClassName;
-    if (!RegisterClassExW(&windowClass)) return 1;
+    if (!RegisterClassExW(&windowClass))
+        return 1;
 
-    const HWND window = CreateWindowExW(0, kClassName, L"Empty", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
-                                        400, 120, nullptr, nullptr, instance, nullptr);
-    if (!window) return 1;
-    ShowWindow(window, SW_SHOWNORMAL);  // as orvane.exe shows its bar
+    const HWND window = CreateWindowExW(0, kClassName, L"Empty", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT, 400,
+                                        120, nullptr, nullptr, instance, nullptr);
+    if (!window)
+        return 1;
+    ShowWindow(window, SW_SHOWNORMAL); // as orvane.exe shows its bar
     UpdateWindow(window);
 
     MSG message;

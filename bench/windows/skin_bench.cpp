@@ -25,33 +25,36 @@ namespace {
 // Lets every pending message run, the paints included.
 void Settle() {
     MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessageW(&message);
 }
 
-template <typename Step>
-double Milliseconds(Step step) {
+template <typename Step> double Milliseconds(Step step) {
     const auto started = Clock::now();
     step();
     Settle();
     return std::chrono::duration<double, std::milli>(Clock::now() - started).count();
 }
 
-}  // namespace
+} // namespace
 
-int wmain(int argc, wchar_t** argv) {
+int wmain(int argc, wchar_t **argv) {
     int runs = 21;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs") runs = std::max(3, _wtoi(argv[2]));
+    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
+        runs = std::max(3, _wtoi(argv[2]));
     const std::wstring skins = ts::EnvironmentPath(L"ORVANE_SKINS");
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"skin bench");
     const std::wstring light = skins + L"\\Skin_Alba.bmp", dark = skins + L"\\Skin_Slate.bmp";
-    if (GetFileAttributesW(light.c_str()) == INVALID_FILE_ATTRIBUTES || GetFileAttributesW(dark.c_str()) == INVALID_FILE_ATTRIBUTES) {
+    if (GetFileAttributesW(light.c_str()) == INVALID_FILE_ATTRIBUTES ||
+        GetFileAttributesW(dark.c_str()) == INVALID_FILE_ATTRIBUTES) {
         std::printf("error: ORVANE_SKINS names no folder with Skin_Alba.bmp and Skin_Slate.bmp\n");
         return 1;
     }
 
     BenchBar bench(folder);
-    if (!bench.opened) return 1;
-    orvane::ui::MainWindow& bar = bench.bar;
+    if (!bench.opened)
+        return 1;
+    orvane::ui::MainWindow &bar = bench.bar;
     Settle();
 
     std::vector<double> apply, repaint;
@@ -66,8 +69,8 @@ int wmain(int argc, wchar_t** argv) {
         }));
     }
     const double applied = Median(apply), repainted = Median(repaint);
-    std::printf("medians of %d runs: applying a skin to the bar %.2f ms, repainting the bar alone %.2f ms\n", runs, applied,
-                repainted);
+    std::printf("medians of %d runs: applying a skin to the bar %.2f ms, repainting the bar alone %.2f ms\n", runs,
+                applied, repainted);
     orvane::bench::TableRow("applying a skin to the bar, against a plain repaint", applied / repainted);
     DestroyWindow(bar.hwnd());
     Settle();

@@ -60,27 +60,34 @@ struct Reading {
 // The program's objects and memory, read from here or from inside it.
 class Meter {
 public:
-    Meter(const OrvaneProcess& orvane, HWND bar) : orvane_(orvane), bar_(bar) {
+    Meter(const OrvaneProcess &orvane, HWND bar) : orvane_(orvane), bar_(bar) {
         const std::wstring dll = testsupport::ExeFolder() + L"\\handle_count.dll";
         library_ = LoadLibraryW(dll.c_str());
-        const auto hook = reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(GetProcAddress(library_, "CountHandlesHook")));
+        const auto hook =
+            reinterpret_cast<HOOKPROC>(reinterpret_cast<void *>(GetProcAddress(library_, "CountHandlesHook")));
         map_ = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(HandleCounts), kCountsName);
         done_ = CreateEventW(nullptr, FALSE, FALSE, kCountedName);
         view_ = map_ ? MapViewOfFile(map_, FILE_MAP_READ, 0, 0, 0) : nullptr;
-        if (hook) hook_ = SetWindowsHookExW(WH_GETMESSAGE, hook, library_, GetWindowThreadProcessId(bar, nullptr));
+        if (hook)
+            hook_ = SetWindowsHookExW(WH_GETMESSAGE, hook, library_, GetWindowThreadProcessId(bar, nullptr));
         SetLastError(0);
         system_ = GetGuiResources(orvane.handle(), GR_GDIOBJECTS) != 0;
         if (!system_)
-            std::printf("GetGuiResources answers 0 (error %lu): objects counted inside orvane.exe instead\n", GetLastError());
+            std::printf("GetGuiResources answers 0 (error %lu): objects counted inside orvane.exe instead\n",
+                        GetLastError());
     }
     ~Meter() {
-        if (hook_) UnhookWindowsHookEx(hook_);
-        if (view_) UnmapViewOfFile(view_);
-        if (done_) CloseHandle(done_);
-        if (map_) CloseHandle(map_);
+        if (hook_)
+            UnhookWindowsHookEx(hook_);
+        if (view_)
+            UnmapViewOfFile(view_);
+        if (done_)
+            CloseHandle(done_);
+        if (map_)
+            CloseHandle(map_);
     }
-    Meter(const Meter&) = delete;
-    Meter& operator=(const Meter&) = delete;
+    Meter(const Meter &) = delete;
+    Meter &operator=(const Meter &) = delete;
 
     std::optional<Reading> read() const {
         Reading r;
@@ -88,19 +95,23 @@ public:
             r.gdi = static_cast<long>(GetGuiResources(orvane_.handle(), GR_GDIOBJECTS));
             r.user = static_cast<long>(GetGuiResources(orvane_.handle(), GR_USEROBJECTS));
         } else {
-            if (!hook_ || !view_) return std::nullopt;
+            if (!hook_ || !view_)
+                return std::nullopt;
             ResetEvent(done_);
             PostMessageW(bar_, RegisterWindowMessageW(kCountMessage), 0, 0);
-            if (WaitForSingleObject(done_, 10000) != WAIT_OBJECT_0) return std::nullopt;
-            const HandleCounts counts = *static_cast<const HandleCounts*>(view_);
+            if (WaitForSingleObject(done_, 10000) != WAIT_OBJECT_0)
+                return std::nullopt;
+            const HandleCounts counts = *static_cast<const HandleCounts *>(view_);
             r.gdi = counts.gdi;
             r.user = windows() + counts.menus + std::max(0L, counts.icons) + counts.accelerators;
         }
         PROCESS_MEMORY_COUNTERS_EX memory{};
         memory.cb = sizeof memory;
-        if (!GetProcessMemoryInfo(orvane_.handle(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory), sizeof memory))
+        if (!GetProcessMemoryInfo(orvane_.handle(), reinterpret_cast<PROCESS_MEMORY_COUNTERS *>(&memory),
+                                  sizeof memory))
             return std::nullopt;
-        r.privateMiB = static_cast<double>(memory.PrivateUsage ? memory.PrivateUsage : memory.PagefileUsage) / (1 << 20);
+        r.privateMiB =
+            static_cast<double>(memory.PrivateUsage ? memory.PrivateUsage : memory.PagefileUsage) / (1 << 20);
         return r;
     }
 
@@ -113,63 +124,78 @@ private:
         } tally{orvane_.id(), 0};
         EnumWindows(
             [](HWND window, LPARAM data) {
-                auto& t = *reinterpret_cast<Tally*>(data);
+                auto &t = *reinterpret_cast<Tally *>(data);
                 DWORD owner = 0;
                 GetWindowThreadProcessId(window, &owner);
-                if (owner != t.process) return TRUE;
+                if (owner != t.process)
+                    return TRUE;
                 ++t.count;
-                EnumChildWindows(window, [](HWND, LPARAM inner) { return ++*reinterpret_cast<long*>(inner), TRUE; },
-                                 reinterpret_cast<LPARAM>(&t.count));
+                EnumChildWindows(
+                    window,
+                    [](HWND, LPARAM inner) {
+                        return ++*reinterpret_cast<long *>(inner), TRUE;
+                    },
+                    reinterpret_cast<LPARAM>(&t.count));
                 return TRUE;
             },
             reinterpret_cast<LPARAM>(&tally));
         return tally.count;
     }
 
-    const OrvaneProcess& orvane_;
+    const OrvaneProcess &orvane_;
     HWND bar_;
     HMODULE library_ = nullptr;
     HANDLE map_ = nullptr, done_ = nullptr;
-    void* view_ = nullptr;
+    void *view_ = nullptr;
     HHOOK hook_ = nullptr;
     bool system_ = false;
 };
 
-double SecondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
+double SecondsSince(Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
 
 // Flushed at once: a long run is followed as it goes.
-void Print(const char* label, const Reading& r) {
+void Print(const char *label, const Reading &r) {
     std::printf("%-22s GDI %5ld   USER %5ld   private %8.2f MiB\n", label, r.gdi, r.user, r.privateMiB);
     std::fflush(stdout);
 }
 
 // Opens and closes one window; false, with the reason, when it did not open or close.
-bool Cycle(const ProgramWindow& window, const OrvaneProcess& orvane, HWND bar, int cycle) {
+bool Cycle(const ProgramWindow &window, const OrvaneProcess &orvane, HWND bar, int cycle) {
     HWND opened = window.open(orvane, bar);
-    if (opened && window.close(orvane, opened)) return true;
+    if (opened && window.close(orvane, opened))
+        return true;
     std::printf("error: in cycle %d the %s window did not %s\n", cycle, testsupport::Utf8(window.name).c_str(),
                 opened ? "close" : "open");
     return false;
 }
 
-}  // namespace
+} // namespace
 
-int wmain(int argc, wchar_t** argv) {
+int wmain(int argc, wchar_t **argv) {
     int cycles = 1000;
     bool check = false;
     std::vector<std::wstring> names;
     for (int i = 1; i < argc; ++i) {
         const std::wstring option = argv[i];
-        if (option == L"--cycles" && i + 1 < argc) cycles = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
-        else if (option == L"--check") check = true;
-        else if (option == L"--window" && i + 1 < argc) names.push_back(argv[++i]);
-        else cycles = 0;
+        if (option == L"--cycles" && i + 1 < argc)
+            cycles = static_cast<int>(std::wcstol(argv[++i], nullptr, 10));
+        else if (option == L"--check")
+            check = true;
+        else if (option == L"--window" && i + 1 < argc)
+            names.push_back(argv[++i]);
+        else
+            cycles = 0;
     }
     std::vector<ProgramWindow> chosen = kProgramWindows;
     if (!names.empty())
-        std::erase_if(chosen, [&](const ProgramWindow& window) { return std::ranges::find(names, window.name) == names.end(); });
+        std::erase_if(chosen, [&](const ProgramWindow &window) {
+            return std::ranges::find(names, window.name) == names.end();
+        });
     if (cycles < 1 || chosen.empty()) {
-        std::printf("usage: soak [--cycles N] [--window NAME] [--check]   (N >= 1, default 1000; NAME as the report gives it)\n");
+        std::printf("usage: soak [--cycles N] [--window NAME] [--check]   (N >= 1, default 1000; NAME as the report "
+                    "gives it)\n");
         return 2;
     }
 
@@ -184,8 +210,9 @@ int wmain(int argc, wchar_t** argv) {
     const Meter meter(orvane, bar);
     const auto started = Clock::now();
     for (int cycle = 1 - kWarmUpCycles; cycle <= 0; ++cycle)
-        for (const ProgramWindow& window : chosen)
-            if (!Cycle(window, orvane, bar, cycle)) return 2;
+        for (const ProgramWindow &window : chosen)
+            if (!Cycle(window, orvane, bar, cycle))
+                return 2;
     const auto first = meter.read();
     if (!first) {
         std::printf("error: no reading of orvane.exe's objects\n");
@@ -201,9 +228,11 @@ int wmain(int argc, wchar_t** argv) {
     const auto soakStarted = Clock::now();
     for (int cycle = 1; cycle <= cycles; ++cycle) {
         for (std::size_t i = 0; i < chosen.size(); ++i) {
-            if (!Cycle(chosen[i], orvane, bar, cycle)) return 2;
+            if (!Cycle(chosen[i], orvane, bar, cycle))
+                return 2;
             const auto now = meter.read();
-            if (!now) return std::printf("error: no reading in cycle %d\n", cycle), 2;
+            if (!now)
+                return std::printf("error: no reading in cycle %d\n", cycle), 2;
             growth[i].gdi += now->gdi - last.gdi;
             growth[i].user += now->user - last.user;
             growth[i].privateMiB += now->privateMiB - last.privateMiB;
@@ -217,19 +246,22 @@ int wmain(int argc, wchar_t** argv) {
     }
     const double seconds = SecondsSince(soakStarted);
     Print("at the end", last);
-    std::printf("%-22s GDI %+5ld   USER %+5ld   private %+8.2f MiB   (%.1f s, %.0f ms a cycle)\n", "growth", last.gdi - first->gdi,
-                last.user - first->user, last.privateMiB - first->privateMiB, seconds, 1000 * seconds / cycles);
+    std::printf("%-22s GDI %+5ld   USER %+5ld   private %+8.2f MiB   (%.1f s, %.0f ms a cycle)\n", "growth",
+                last.gdi - first->gdi, last.user - first->user, last.privateMiB - first->privateMiB, seconds,
+                1000 * seconds / cycles);
     std::printf("growth after each window, over all cycles:\n");
     for (std::size_t i = 0; i < chosen.size(); ++i)
         std::printf("  %-18s GDI %+5ld   USER %+5ld   private %+8.2f MiB\n", testsupport::Utf8(chosen[i].name).c_str(),
                     growth[i].gdi, growth[i].user, growth[i].privateMiB);
 
     orvane.close();
-    if (orvane.waitForExit() != 0u) return std::printf("error: orvane.exe did not end cleanly\n"), 2;
-    if (!check) return 0;
+    if (orvane.waitForExit() != 0u)
+        return std::printf("error: orvane.exe did not end cleanly\n"), 2;
+    if (!check)
+        return 0;
     const bool held = last.gdi - first->gdi <= kGdiLimit && last.user - first->user <= kUserLimit &&
                       last.privateMiB - first->privateMiB <= kPrivateLimitMiB;
-    std::printf("%s: limits GDI +%ld, USER +%ld, private +%.0f MiB\n", held ? "passed" : "FAILED", kGdiLimit, kUserLimit,
-                kPrivateLimitMiB);
+    std::printf("%s: limits GDI +%ld, USER +%ld, private +%.0f MiB\n", held ? "passed" : "FAILED", kGdiLimit,
+                kUserLimit, kPrivateLimitMiB);
     return held ? 0 : 1;
 }

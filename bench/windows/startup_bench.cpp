@@ -32,10 +32,10 @@ constexpr double kRatioGoal = 1.3;
 constexpr DWORD kStartTimeoutMs = 30000;
 
 struct Program {
-    const char* label;
+    const char *label;
     std::wstring path;
-    const wchar_t* windowClass;
-    const wchar_t* windowTitle;
+    const wchar_t *windowClass;
+    const wchar_t *windowTitle;
 };
 
 struct Sample {
@@ -43,13 +43,13 @@ struct Sample {
     double mebibytes;
 };
 
-void Fail(const Program& program, const char* what) {
+void Fail(const Program &program, const char *what) {
     std::printf("error: %s %s (Windows error %lu)\n", program.label, what, GetLastError());
 }
 
 // One start: clock from CreateProcess until the program idles with its own
 // visible window; the working set is read just before the window is closed.
-std::optional<Sample> StartOnce(const Program& program, const std::wstring& folder) {
+std::optional<Sample> StartOnce(const Program &program, const std::wstring &folder) {
     Child child;
     const auto started = Clock::now();
     if (!child.start(program.path, folder)) {
@@ -96,31 +96,33 @@ std::optional<Sample> StartOnce(const Program& program, const std::wstring& fold
     return Sample{std::chrono::duration<double, std::milli>(painted - started).count(), *peak};
 }
 
+} // namespace
 
-}  // namespace
-
-int wmain(int argc, wchar_t** argv) {
+int wmain(int argc, wchar_t **argv) {
     const auto arguments = ParseArguments(argc, argv, "startup_bench", 7, kMinimumRuns);
-    if (!arguments) return 2;
+    if (!arguments)
+        return 2;
     const int runs = arguments->runs;
-    const std::wstring& orvanePath = arguments->orvane;
+    const std::wstring &orvanePath = arguments->orvane;
 
     std::wstring root = ts::EnvironmentPath(L"ORVANE_BENCH_ROOT");
-    if (root.empty()) root = ts::ExeFolder();
+    if (root.empty())
+        root = ts::ExeFolder();
     const std::wstring folder = ts::FreshFolder(root, L"startup bench");
     ts::CopyInto(ts::WindowsPath(orvanePath), folder, L"orvane.exe");
     // The default skin beside it, where start-up looks when the settings name none.
     const std::wstring built = ts::WindowsPath(orvanePath);
     ts::CopyInto(built.substr(0, built.find_last_of(L"\\/") + 1) + L"Skin_Alba.bmp", folder);
-    for (const wchar_t* baseline : {L"minwin.exe", L"minwin_dlls.exe"}) ts::CopyInto(ts::ExeFolder() + L"\\" + baseline, folder);
+    for (const wchar_t *baseline : {L"minwin.exe", L"minwin_dlls.exe"})
+        ts::CopyInto(ts::ExeFolder() + L"\\" + baseline, folder);
     const std::wstring settingsPath = folder + L"\\Orvane.ini";
     const std::string settings = StripSettings();
 
     const Program orvane{"orvane.exe", folder + L"\\orvane.exe", L"Orvane.Main", L"Orvane"};
     const Program empty{"minwin.exe", folder + L"\\minwin.exe", L"Orvane.Bench.Empty", L"Empty"};
     const Program sameDlls{"minwin_dlls.exe", folder + L"\\minwin_dlls.exe", L"Orvane.Bench.Empty", L"Empty"};
-    const Program* programs[] = {&orvane, &empty, &sameDlls};
-    for (const Program* program : programs) {
+    const Program *programs[] = {&orvane, &empty, &sameDlls};
+    for (const Program *program : programs) {
         if (GetFileAttributesW(program->path.c_str()) == INVALID_FILE_ATTRIBUTES) {
             Fail(*program, "could not be copied into the bench folder");
             return 1;
@@ -135,20 +137,24 @@ int wmain(int argc, wchar_t** argv) {
         for (int which = 0; which < 3; ++which) {
             ts::WriteBytes(settingsPath, settings);
             const auto sample = StartOnce(*programs[which], folder);
-            if (!sample) return 1;
+            if (!sample)
+                return 1;
             taken[which] = *sample;
         }
-        if (run == 0) continue;  // the warm-up start fills the caches for all
-        for (int which = 0; which < 3; ++which) samples[which].push_back(taken[which]);
+        if (run == 0)
+            continue; // the warm-up start fills the caches for all
+        for (int which = 0; which < 3; ++which)
+            samples[which].push_back(taken[which]);
         std::printf("run %d: orvane.exe %7.1f ms %6.1f MiB | minwin.exe %7.1f ms %6.1f MiB | minwin_dlls.exe %7.1f ms "
-                    "%6.1f MiB\n", run, taken[0].milliseconds, taken[0].mebibytes, taken[1].milliseconds,
-                    taken[1].mebibytes, taken[2].milliseconds, taken[2].mebibytes);
+                    "%6.1f MiB\n",
+                    run, taken[0].milliseconds, taken[0].mebibytes, taken[1].milliseconds, taken[1].mebibytes,
+                    taken[2].milliseconds, taken[2].mebibytes);
     }
 
     double time[3], memory[3];
     for (int which = 0; which < 3; ++which) {
         std::vector<double> times, sets;
-        for (const Sample& s : samples[which]) {
+        for (const Sample &s : samples[which]) {
             times.push_back(s.milliseconds);
             sets.push_back(s.mebibytes);
         }
@@ -167,9 +173,11 @@ int wmain(int argc, wchar_t** argv) {
     orvane::bench::TableRow("start to first paint, against an empty window", timeRatio, kRatioGoal);
     orvane::bench::TableRow("peak working set at start, against an empty window", memoryRatio, kRatioGoal);
     // What the system libraries alone cost, and what is left for orvane.exe's own work.
-    orvane::bench::TableRow("the same, an empty window with orvane.exe's system libraries against the bare one", time[2] / time[1]);
+    orvane::bench::TableRow("the same, an empty window with orvane.exe's system libraries against the bare one",
+                            time[2] / time[1]);
     orvane::bench::TableRow("the same, orvane.exe against that empty window with its libraries", time[0] / time[2]);
-    orvane::bench::TableRow("peak working set, orvane.exe against the empty window with its libraries", memory[0] / memory[2]);
+    orvane::bench::TableRow("peak working set, orvane.exe against the empty window with its libraries",
+                            memory[0] / memory[2]);
     std::fflush(stdout);
 
     ts::RemoveTree(folder);

@@ -36,36 +36,38 @@ constexpr int kWidth = 7680, kHeight = 4320;
 
 // A photograph-like 8K picture: smooth gradients with fine noise, so that it
 // compresses as photographs do rather than as a flat colour.
-bool Write8kPng(const std::wstring& path) {
+bool Write8kPng(const std::wstring &path) {
     const int stride = kWidth * 3;
     std::vector<BYTE> pixels(static_cast<std::size_t>(stride) * kHeight);
     unsigned noise = 12345;
     for (int y = 0; y < kHeight; ++y)
         for (int x = 0; x < kWidth; ++x) {
             noise = noise * 1103515245 + 12345;
-            BYTE* p = &pixels[static_cast<std::size_t>(y) * stride + x * 3];
+            BYTE *p = &pixels[static_cast<std::size_t>(y) * stride + x * 3];
             p[0] = static_cast<BYTE>(120 + 100 * y / kHeight + (noise >> 28));
             p[1] = static_cast<BYTE>(60 + 120 * x / kWidth + (noise >> 29));
             p[2] = static_cast<BYTE>(40 + (x ^ y) % 64 + (noise >> 30));
         }
-    Gdiplus::GpBitmap* bitmap = nullptr;
+    Gdiplus::GpBitmap *bitmap = nullptr;
     // The PNG encoder's class identifier.
     const CLSID png = {0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
     const bool written = gp::GdipCreateBitmapFromScan0(kWidth, kHeight, stride, PixelFormat24bppRGB, pixels.data(),
                                                        &bitmap) == Gdiplus::Ok &&
                          gp::GdipSaveImageToFile(bitmap, path.c_str(), &png, nullptr) == Gdiplus::Ok;
-    if (bitmap) gp::GdipDisposeImage(bitmap);
+    if (bitmap)
+        gp::GdipDisposeImage(bitmap);
     return written;
 }
 
 // GDI+ decoding the file and nothing else: every pixel read once.
-void DecodeAlone(const std::wstring& path) {
+void DecodeAlone(const std::wstring &path) {
     const ULONG_PTR token = orvane::ui::StartImaging();
-    Gdiplus::GpBitmap* bitmap = nullptr;
+    Gdiplus::GpBitmap *bitmap = nullptr;
     if (gp::GdipCreateBitmapFromFile(path.c_str(), &bitmap) == Gdiplus::Ok) {
         Gdiplus::BitmapData data{};
         const Gdiplus::GpRect all(0, 0, kWidth, kHeight);
-        if (gp::GdipBitmapLockBits(bitmap, &all, Gdiplus::ImageLockModeRead, PixelFormat32bppARGB, &data) == Gdiplus::Ok)
+        if (gp::GdipBitmapLockBits(bitmap, &all, Gdiplus::ImageLockModeRead, PixelFormat32bppARGB, &data) ==
+            Gdiplus::Ok)
             gp::GdipBitmapUnlockBits(bitmap, &data);
         gp::GdipDisposeImage(bitmap);
     }
@@ -73,18 +75,21 @@ void DecodeAlone(const std::wstring& path) {
 }
 
 // The peak working set of this process, in MiB.
-double PeakMiB() { return PeakWorkingSetMiB(GetCurrentProcess()).value_or(0); }
+double PeakMiB() {
+    return PeakWorkingSetMiB(GetCurrentProcess()).value_or(0);
+}
 
 // In a fresh process: the real bar and its wallpaper window on the picture;
 // the peak working set once the window has painted and waits for the user.
-int ShowAndMeasure(const std::wstring& picture) {
+int ShowAndMeasure(const std::wstring &picture) {
     orvane::ui::Win32System system;
     orvane::App app(system);
-    app.ProgramFolder = ts::ExeFolder();  // a neutral settings file, written by the parent
+    app.ProgramFolder = ts::ExeFolder(); // a neutral settings file, written by the parent
     orvane::ui::Skin skin;
     orvane::ui::MainWindow bar(app, skin);
     const UINT command = MenuCommandOf(orvane::MainMenuRows(), L"Wa&llpaper", orvane::ui::kFirstMenuCommand);
-    if (!bar.open() || command == 0) return 1;
+    if (!bar.open() || command == 0)
+        return 1;
     app.settings.WallpaperFile = picture;
     const double before = PeakMiB();
     double showing = 0;
@@ -92,24 +97,29 @@ int ShowAndMeasure(const std::wstring& picture) {
     firstIdle.time(
         [&](HWND dialog) {
             showing = PeakMiB();
-            EndDialog(dialog, 0);  // leaves without the password: this is the bench, not a user
+            EndDialog(dialog, 0); // leaves without the password: this is the bench, not a user
             return false;
         },
-        [&] { SendMessageW(bar.hwnd(), WM_COMMAND, command, 0); });
+        [&] {
+            SendMessageW(bar.hwnd(), WM_COMMAND, command, 0);
+        });
     const double decoded = kWidth * 4.0 * kHeight / 1048576;
     std::printf("peak working set showing the 8K wallpaper: %.0f MiB (%.0f MiB before opening it); the decoded "
-                "bitmap alone: %.0f MiB\n", showing, before, decoded);
+                "bitmap alone: %.0f MiB\n",
+                showing, before, decoded);
     orvane::bench::TableRow("peak working set showing an 8K wallpaper, against its decoded bitmap", showing / decoded);
     DestroyWindow(bar.hwnd());
     return showing > 0 ? 0 : 1;
 }
 
-}  // namespace
+} // namespace
 
-int wmain(int argc, wchar_t** argv) {
-    if (argc == 3 && std::wstring(argv[1]) == L"--show") return ShowAndMeasure(argv[2]);
+int wmain(int argc, wchar_t **argv) {
+    if (argc == 3 && std::wstring(argv[1]) == L"--show")
+        return ShowAndMeasure(argv[2]);
     int runs = 5;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs") runs = std::max(1, _wtoi(argv[2]));
+    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
+        runs = std::max(1, _wtoi(argv[2]));
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"wallpaper bench"), picture = folder + L"\\8K.png";
     const ULONG_PTR token = orvane::ui::StartImaging();
     const bool written = Write8kPng(picture);
@@ -127,13 +137,16 @@ int wmain(int argc, wchar_t** argv) {
         int width = screenWidth, height = screenHeight;
         const auto bitmap = orvane::ui::LoadScaledPicture(app, picture, width, height, RGB(255, 255, 255), true);
         orvane::ui::StopImaging(started);
-        if (!bitmap) std::printf("error: the 8K picture did not load\n");
+        if (!bitmap)
+            std::printf("error: the 8K picture did not load\n");
     };
-    fit();  // GDI+ and its codecs loaded once, outside the measured runs
+    fit(); // GDI+ and its codecs loaded once, outside the measured runs
     std::vector<double> fitTimes, decodeTimes;
     for (int run = 0; run < runs; ++run) {
         fitTimes.push_back(MillisecondsOf(fit));
-        decodeTimes.push_back(MillisecondsOf([&] { DecodeAlone(picture); }));
+        decodeTimes.push_back(MillisecondsOf([&] {
+            DecodeAlone(picture);
+        }));
         std::printf("run %d: fitted onto %dx%d %7.1f ms | decoded alone %7.1f ms\n", run + 1, screenWidth, screenHeight,
                     fitTimes.back(), decodeTimes.back());
     }

@@ -40,8 +40,10 @@ orvane::WebListContent ListOf(int count) {
     orvane::WebListContent list;
     for (int i = 1; i <= count; ++i) {
         const std::wstring n = std::to_wstring(i);
-        if (i % 25 == 0) list.rows.push_back({L"", std::wstring(orvane::kSeparatorMarker), L""});
-        else list.rows.push_back({L"", L"Website " + n, L"https://www.site-" + n + L".example.org/", i % 7 == 1});
+        if (i % 25 == 0)
+            list.rows.push_back({L"", std::wstring(orvane::kSeparatorMarker), L""});
+        else
+            list.rows.push_back({L"", L"Website " + n, L"https://www.site-" + n + L".example.org/", i % 7 == 1});
     }
     for (int group = 0; group < 8; ++group)
         list.groups.push_back(L"https://www.site-" + std::to_wstring(group * 3 + 1) + L".example.org/ " +
@@ -50,25 +52,28 @@ orvane::WebListContent ListOf(int count) {
 }
 
 // What the window's save does once its dialog has named the file.
-void Save(orvane::App& app, const orvane::WebListContent& list, const std::wstring& path) {
+void Save(orvane::App &app, const orvane::WebListContent &list, const std::wstring &path) {
     const auto text = orvane::FormatWebList(list);
     orvane::DeleteFileIfPresent(app, path);
     if (!text || app.sys.writeFile(path, app.sys.toAnsi(*text)) != 0)
         std::printf("error: %ls not written\n", path.c_str());
 }
 
-}  // namespace
+} // namespace
 
-int wmain(int argc, wchar_t** argv) {
+int wmain(int argc, wchar_t **argv) {
     int runs = 5;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs") runs = std::max(1, _wtoi(argv[2]));
+    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
+        runs = std::max(1, _wtoi(argv[2]));
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"weblist bench");
     ts::WriteBytes(folder + L"\\Orvane.ini", StripSettings());
 
     orvane::ui::Win32System system;
     orvane::App app(system);
     app.ProgramFolder = folder;
-    const auto listFile = [&](int rows) { return folder + L"\\" + std::to_wstring(rows) + L".lst"; };
+    const auto listFile = [&](int rows) {
+        return folder + L"\\" + std::to_wstring(rows) + L".lst";
+    };
     const std::vector<int> sizes = {kShort, kMiddle, kLong};
     std::vector<orvane::WebListContent> lists;
     for (int size : sizes) {
@@ -79,7 +84,8 @@ int wmain(int argc, wchar_t** argv) {
     orvane::ui::Skin skin;
     orvane::ui::MainWindow bar(app, skin);
     const UINT command = MenuCommandOf(orvane::MainMenuRows(), L"Open &web list", orvane::ui::kFirstMenuCommand);
-    if (!bar.open() || command == 0) return 1;
+    if (!bar.open() || command == 0)
+        return 1;
     FirstIdle firstIdle(bar.hwnd());
     const auto open = [&](int rows) {
         app.settings.WebListFile = listFile(rows);
@@ -87,9 +93,11 @@ int wmain(int argc, wchar_t** argv) {
             return ListView_GetItemCount(GetDlgItem(dialog, IDC_WEB_ROWS)) == rows;
         };
         // Returns when the window has closed.
-        return firstIdle.time(shown, [&] { SendMessageW(bar.hwnd(), WM_COMMAND, command, 0); });
+        return firstIdle.time(shown, [&] {
+            SendMessageW(bar.hwnd(), WM_COMMAND, command, 0);
+        });
     };
-    open(kShort);  // the window's classes and controls, made once per process
+    open(kShort); // the window's classes and controls, made once per process
     std::vector<double> longTimes, shortTimes;
     for (int run = 0; run < runs; ++run) {
         longTimes.push_back(open(kLong));
@@ -99,14 +107,18 @@ int wmain(int argc, wchar_t** argv) {
     }
     const double longOpening = Median(longTimes), shortOpening = Median(shortTimes);
     std::printf("web list window to its first paint: %d rows %.1f ms, %d rows %.1f ms; "
-                "medians of %d alternating runs\n", kLong, longOpening, kShort, shortOpening, runs);
-    orvane::bench::TableRow("web list window on 30,000 rows, against 300 rows", longOpening / shortOpening, kOpeningGoal);
+                "medians of %d alternating runs\n",
+                kLong, longOpening, kShort, shortOpening, runs);
+    orvane::bench::TableRow("web list window on 30,000 rows, against 300 rows", longOpening / shortOpening,
+                            kOpeningGoal);
     // The part of the opening that grows with the list: the file read into the model.
     const auto load = [&](int rows) {
         app.settings.WebListFile = listFile(rows);
         return MedianOf(runs, [&] {
             orvane::WebList list(app);
-            return MillisecondsOf([&] { list.load(); });
+            return MillisecondsOf([&] {
+                list.load();
+            });
         });
     };
     std::printf("of which reading the file into the model (WebList::load): %d rows %.1f ms, %d rows %.1f ms\n", kLong,
@@ -116,7 +128,9 @@ int wmain(int argc, wchar_t** argv) {
     const std::wstring saved = folder + L"\\Saved.lst";
     for (int run = 0; run < runs; ++run)
         for (std::size_t i = 0; i < sizes.size(); ++i)
-            saves[i].push_back(MillisecondsOf([&] { Save(app, lists[i], saved); }));
+            saves[i].push_back(MillisecondsOf([&] {
+                Save(app, lists[i], saved);
+            }));
     std::vector<double> save;
     for (std::size_t i = 0; i < sizes.size(); ++i) {
         save.push_back(Median(saves[i]));

@@ -13,18 +13,20 @@ namespace orvane::e2e {
 
 using namespace testsupport;
 
-ProgramFolder::ProgramFolder(const std::wstring& name) : path_(EnvironmentPath(L"ORVANE_PROGRAM_FOLDER")) {
-    if (!path_.empty()) return;  // a folder laid out elsewhere, the unzipped release, used as it stands
+ProgramFolder::ProgramFolder(const std::wstring &name) : path_(EnvironmentPath(L"ORVANE_PROGRAM_FOLDER")) {
+    if (!path_.empty())
+        return; // a folder laid out elsewhere, the unzipped release, used as it stands
     path_ = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"), name);
     CopyInto(EnvironmentPath(L"ORVANE_EXE"), path_);
     // The built skins: the default one, and others (a dark one among them) to choose; and the hand cursor.
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(EnvironmentPath(L"ORVANE_SKINS"), error))
-        if (const std::wstring file = entry.path().filename().wstring(); file.starts_with(L"Skin_") || file == L"HandOpen.ico")
+    for (const auto &entry : std::filesystem::directory_iterator(EnvironmentPath(L"ORVANE_SKINS"), error))
+        if (const std::wstring file = entry.path().filename().wstring();
+            file.starts_with(L"Skin_") || file == L"HandOpen.ico")
             CopyInto(entry.path().wstring(), path_);
 }
 
-OrvaneProcess::OrvaneProcess(const ProgramFolder& folder) {
+OrvaneProcess::OrvaneProcess(const ProgramFolder &folder) {
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION info{};
@@ -38,22 +40,33 @@ OrvaneProcess::OrvaneProcess(const ProgramFolder& folder) {
 }
 
 OrvaneProcess::~OrvaneProcess() {
-    if (process_ && WaitForSingleObject(process_, 0) == WAIT_TIMEOUT) TerminateProcess(process_, 99);
-    if (process_) CloseHandle(process_);
+    if (process_ && WaitForSingleObject(process_, 0) == WAIT_TIMEOUT)
+        TerminateProcess(process_, 99);
+    if (process_)
+        CloseHandle(process_);
 }
 
 HWND OrvaneProcess::waitForMainWindow(std::chrono::milliseconds timeout) const {
     HWND bar = nullptr;
-    WaitFor([&] { return (bar = FindProcessWindow(id_, kMainWindowClass)) || waitForExit(0ms); }, timeout);
-    if (!bar && timeout > 0ms)  // say why, for the test's log
+    WaitFor(
+        [&] {
+            return (bar = FindProcessWindow(id_, kMainWindowClass)) || waitForExit(0ms);
+        },
+        timeout);
+    if (!bar && timeout > 0ms) // say why, for the test's log
         std::fprintf(stderr, "no bar from process %lu: it %s; message: \"%s\"\n", id_,
                      waitForExit(0ms) ? "has ended" : "still runs", Utf8(MessageBoxText(waitForDialog(0ms))).c_str());
     return bar;
 }
 
-HWND OrvaneProcess::waitForDialog(std::chrono::milliseconds timeout) const { return WaitForDialogTitled(id_, L"*", timeout); }
+HWND OrvaneProcess::waitForDialog(std::chrono::milliseconds timeout) const {
+    return WaitForDialogTitled(id_, L"*", timeout);
+}
 
-void OrvaneProcess::close() const { if (HWND bar = waitForMainWindow(0ms)) PostMessageW(bar, WM_CLOSE, 0, 0); }
+void OrvaneProcess::close() const {
+    if (HWND bar = waitForMainWindow(0ms))
+        PostMessageW(bar, WM_CLOSE, 0, 0);
+}
 
 std::optional<DWORD> OrvaneProcess::waitForExit(std::chrono::milliseconds timeout) const {
     DWORD code = 0;
@@ -61,32 +74,46 @@ std::optional<DWORD> OrvaneProcess::waitForExit(std::chrono::milliseconds timeou
     return ended && GetExitCodeProcess(process_, &code) ? std::optional(code) : std::nullopt;
 }
 
-std::wstring MessageBoxText(HWND box) { return ControlText(box, 0xFFFF); }  // the box's static text
+std::wstring MessageBoxText(HWND box) {
+    return ControlText(box, 0xFFFF);
+} // the box's static text
 
-void PressButton(HWND dialog, int buttonId) { PostMessageW(GetDlgItem(dialog, buttonId), BM_CLICK, 0, 0); }
+void PressButton(HWND dialog, int buttonId) {
+    PostMessageW(GetDlgItem(dialog, buttonId), BM_CLICK, 0, 0);
+}
 
-bool Gone(HWND window, std::chrono::milliseconds timeout) { return WaitFor([&] { return !IsWindow(window); }, timeout); }
+bool Gone(HWND window, std::chrono::milliseconds timeout) {
+    return WaitFor(
+        [&] {
+            return !IsWindow(window);
+        },
+        timeout);
+}
 
 bool EscapeFrom(HWND window) {
     PressKeys(window, {VK_ESCAPE});
     return Gone(window);
 }
 
-bool AnswerMessage(DWORD processId, const std::wstring& text, int buttonId, const std::wstring& title) {
+bool AnswerMessage(DWORD processId, const std::wstring &text, int buttonId, const std::wstring &title) {
     HWND box = WaitForDialogTitled(processId, title);
     if (!box || MessageBoxText(box) != text)
-        return std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(), Utf8(MessageBoxText(box)).c_str()), false;
+        return std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(),
+                            Utf8(MessageBoxText(box)).c_str()),
+               false;
     PressButton(box, buttonId);
     return Gone(box);
 }
 
 std::vector<MenuItem> ReadMenu(HWND window) {
     static HMODULE hook = LoadLibraryW((ExeFolder() + L"\\menu_hook.dll").c_str());
-    const auto procedure = reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(GetProcAddress(hook, "ReadMenuHook")));
-    if (!procedure) return {};
-    HANDLE map = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, DWORD(kMenuDumpChars * 2), kMenuDumpName);
+    const auto procedure = reinterpret_cast<HOOKPROC>(reinterpret_cast<void *>(GetProcAddress(hook, "ReadMenuHook")));
+    if (!procedure)
+        return {};
+    HANDLE map =
+        CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, DWORD(kMenuDumpChars * 2), kMenuDumpName);
     HANDLE done = CreateEventW(nullptr, TRUE, FALSE, kMenuDoneName);
-    auto* view = static_cast<wchar_t*>(MapViewOfFile(map, FILE_MAP_READ, 0, 0, 0));
+    auto *view = static_cast<wchar_t *>(MapViewOfFile(map, FILE_MAP_READ, 0, 0, 0));
     HHOOK installed = SetWindowsHookExW(WH_GETMESSAGE, procedure, hook, GetWindowThreadProcessId(window, nullptr));
     // A bar always has a menu: an empty answer means the request went astray
     // (seen once while the shell's desktop toggle ran), so it is asked again.
@@ -94,7 +121,8 @@ std::vector<MenuItem> ReadMenu(HWND window) {
     for (int attempt = 0; attempt < 3 && dump.empty() && view; ++attempt) {
         ResetEvent(done);
         PostMessageW(window, RegisterWindowMessageW(kReadMenuMessage), 0, 0);
-        if (WaitForSingleObject(done, 5000) == WAIT_OBJECT_0) dump = view;
+        if (WaitForSingleObject(done, 5000) == WAIT_OBJECT_0)
+            dump = view;
     }
     UnhookWindowsHookEx(installed), UnmapViewOfFile(view), CloseHandle(done), CloseHandle(map);
     std::vector<MenuItem> items;
@@ -104,8 +132,8 @@ std::vector<MenuItem> ReadMenu(HWND window) {
     return items;
 }
 
-bool PickMenuItem(HWND window, const std::wstring& caption) {
-    for (const MenuItem& item : ReadMenu(window))
+bool PickMenuItem(HWND window, const std::wstring &caption) {
+    for (const MenuItem &item : ReadMenu(window))
         if (item.id != 0 && item.text.substr(0, item.text.find(L'\t')) == caption)
             return PostMessageW(window, WM_COMMAND, item.id, 0) != 0;
     return false;
@@ -113,14 +141,22 @@ bool PickMenuItem(HWND window, const std::wstring& caption) {
 
 void PressKeys(HWND window, std::initializer_list<WORD> keys) {
     // Asked only when needed: bringing the window forward closes its open menu.
-    if (GetForegroundWindow() != window) SetForegroundWindow(window);
-    WaitFor([&] { return GetForegroundWindow() == window; }, 2s);
+    if (GetForegroundWindow() != window)
+        SetForegroundWindow(window);
+    WaitFor(
+        [&] {
+            return GetForegroundWindow() == window;
+        },
+        2s);
     std::vector<INPUT> inputs;
     auto add = [&](WORD key, DWORD flags) {
-        inputs.push_back({.type = INPUT_KEYBOARD, .ki = {key, WORD(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), flags, 0, 0}});
+        inputs.push_back(
+            {.type = INPUT_KEYBOARD, .ki = {key, WORD(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), flags, 0, 0}});
     };
-    for (WORD key : keys) add(key, 0);
-    for (auto key = keys.end(); key != keys.begin();) add(*--key, KEYEVENTF_KEYUP);
+    for (WORD key : keys)
+        add(key, 0);
+    for (auto key = keys.end(); key != keys.begin();)
+        add(*--key, KEYEVENTF_KEYUP);
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
@@ -137,23 +173,30 @@ COLORREF ScreenColour(POINT point) {
     return ReleaseDC(nullptr, screen), colour;
 }
 
-HWND WaitForDialogTitled(DWORD processId, const std::wstring& title, std::chrono::milliseconds timeout) {
+HWND WaitForDialogTitled(DWORD processId, const std::wstring &title, std::chrono::milliseconds timeout) {
     HWND dialog = nullptr;
-    WaitFor([&] { return (dialog = FindProcessWindow(processId, kDialogClass, title.c_str())) != nullptr; }, timeout);
+    WaitFor(
+        [&] {
+            return (dialog = FindProcessWindow(processId, kDialogClass, title.c_str())) != nullptr;
+        },
+        timeout);
     return dialog;
 }
 
-std::wstring ControlText(HWND dialog, int id) { return TextOf(GetDlgItem(dialog, id)); }
+std::wstring ControlText(HWND dialog, int id) {
+    return TextOf(GetDlgItem(dialog, id));
+}
 
-void SetControlText(HWND dialog, int id, const std::wstring& text) {
+void SetControlText(HWND dialog, int id, const std::wstring &text) {
     SendMessageW(GetDlgItem(dialog, id), WM_SETTEXT, 0, LPARAM(text.c_str()));
 }
 
-bool AnswerFileDialog(HWND dialog, const std::wstring& fileName) {
+bool AnswerFileDialog(HWND dialog, const std::wstring &fileName) {
     // GetOpenFileNameW's dialog keeps the name in an edit inside a combo box (cmb13).
     HWND combo = FindWindowExW(GetDlgItem(dialog, 0x47C), nullptr, L"ComboBox", nullptr);
     HWND name = FindWindowExW(combo ? combo : GetDlgItem(dialog, 0x47C), nullptr, L"Edit", nullptr);
-    if (!name) return false;
+    if (!name)
+        return false;
     SendMessageW(name, WM_SETTEXT, 0, LPARAM(fileName.c_str()));
     return PressButton(dialog, IDOK), true;
 }
@@ -162,8 +205,7 @@ namespace {
 
 // A list view writes texts through pointers in its own process, so each request (an LVITEMW or LVCOLUMNW) and its
 // text buffer are placed there, sent for every index below the count, and the texts read back; empty where it fails.
-template <class Request>
-std::vector<std::wstring> AskRemote(HWND listView, UINT message, int count, Request request) {
+template <class Request> std::vector<std::wstring> AskRemote(HWND listView, UINT message, int count, Request request) {
     constexpr int kChars = 1024;
     constexpr std::size_t kRequestBytes = 256;
     static_assert(sizeof(Request) <= kRequestBytes);
@@ -171,9 +213,10 @@ std::vector<std::wstring> AskRemote(HWND listView, UINT message, int count, Requ
     GetWindowThreadProcessId(listView, &processId);
     const std::unique_ptr<void, decltype(&CloseHandle)> process(
         OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, processId), CloseHandle);
-    void* block = process ? VirtualAllocEx(process.get(), nullptr, kRequestBytes + kChars * sizeof(wchar_t),
-                                           MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE) : nullptr;
-    auto* remoteText = reinterpret_cast<wchar_t*>(static_cast<char*>(block) + kRequestBytes);
+    void *block = process ? VirtualAllocEx(process.get(), nullptr, kRequestBytes + kChars * sizeof(wchar_t),
+                                           MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)
+                          : nullptr;
+    auto *remoteText = reinterpret_cast<wchar_t *>(static_cast<char *>(block) + kRequestBytes);
     request.pszText = remoteText, request.cchTextMax = kChars;
     std::vector<std::wstring> texts;
     for (int index = 0; index < count; ++index) {
@@ -183,13 +226,16 @@ std::vector<std::wstring> AskRemote(HWND listView, UINT message, int count, Requ
                           ReadProcessMemory(process.get(), remoteText, text.data(), kChars * sizeof(wchar_t), nullptr);
         texts.push_back(read ? text.c_str() : L"");
     }
-    if (block) VirtualFreeEx(process.get(), block, 0, MEM_RELEASE);
+    if (block)
+        VirtualFreeEx(process.get(), block, 0, MEM_RELEASE);
     return texts;
 }
 
-}  // namespace
+} // namespace
 
-int ListViewRows(HWND listView) { return int(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0)); }
+int ListViewRows(HWND listView) {
+    return int(SendMessageW(listView, LVM_GETITEMCOUNT, 0, 0));
+}
 
 std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
     LVITEMW item{};
@@ -213,13 +259,18 @@ std::vector<bool> ListViewChecks(HWND listView) {
 
 std::wstring ClipboardText() {
     // The program that just copied, or Wine's bridge to the X selection, may hold it a moment.
-    if (!WaitFor([] { return OpenClipboard(nullptr) != FALSE; }, 1s)) return {};
+    if (!WaitFor(
+            [] {
+                return OpenClipboard(nullptr) != FALSE;
+            },
+            1s))
+        return {};
     std::wstring text;
     HANDLE data = GetClipboardData(CF_UNICODETEXT);
-    if (const auto* chars = data ? static_cast<const wchar_t*>(GlobalLock(data)) : nullptr)
+    if (const auto *chars = data ? static_cast<const wchar_t *>(GlobalLock(data)) : nullptr)
         text.assign(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t))), GlobalUnlock(data);
     CloseClipboard();
     return text;
 }
 
-}  // namespace orvane::e2e
+} // namespace orvane::e2e

@@ -15,47 +15,59 @@ namespace {
 constexpr wchar_t kPopupMenuClass[] = L"#32768";
 
 // An item of the custom programs window's popup menu, from the bar.
-HWND FromCustomPopup(const OrvaneProcess& orvane, HWND bar, WORD letter, const wchar_t* title) {
+HWND FromCustomPopup(const OrvaneProcess &orvane, HWND bar, WORD letter, const wchar_t *title) {
     HWND custom = FromMenu(orvane, bar, L"C&ustom programs", L"Custom programs");
     return custom ? FromPopupMenu(orvane, custom, letter, title) : nullptr;
 }
 
-HWND ListEditor(const OrvaneProcess& orvane, HWND bar) { return FromCustomPopup(orvane, bar, 'E', L"Custom programs ( *"); }
+HWND ListEditor(const OrvaneProcess &orvane, HWND bar) {
+    return FromCustomPopup(orvane, bar, 'E', L"Custom programs ( *");
+}
 
 // Opens the window titled so from the bar's menu item with this caption.
-#define FROM_MENU(caption, title) [](const OrvaneProcess& o, HWND bar) { return FromMenu(o, bar, caption, title); }
+#define FROM_MENU(caption, title)                                                                                      \
+    [](const OrvaneProcess &o, HWND bar) {                                                                             \
+        return FromMenu(o, bar, caption, title);                                                                       \
+    }
 
 // Esc in the window, then in each window it was opened from, down to the bar.
-bool EscapeToBar(const OrvaneProcess&, HWND window) {
+bool EscapeToBar(const OrvaneProcess &, HWND window) {
     while (window) {
         HWND owner = GetWindow(window, GW_OWNER);
         wchar_t type[64] = {};
         GetClassNameW(owner, type, 64);
-        if (!EscapeFrom(window)) return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
+        if (!EscapeFrom(window))
+            return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
         window = std::wstring(type) == kMainWindowClass ? nullptr : owner;
     }
     return true;
 }
 
 // Esc asks for the return password; none being set, an empty answer lets the user out.
-bool LeaveWallpaper(const OrvaneProcess& orvane, HWND window) {
+bool LeaveWallpaper(const OrvaneProcess &orvane, HWND window) {
     PressKeys(window, {VK_ESCAPE});
     return AnswerPassword(orvane.id(), L"") && Gone(window);
 }
 
-}  // namespace
+} // namespace
 
-HWND FromMenu(const OrvaneProcess& orvane, HWND window, const wchar_t* caption, const std::wstring& title) {
+HWND FromMenu(const OrvaneProcess &orvane, HWND window, const wchar_t *caption, const std::wstring &title) {
     return window && PickMenuItem(window, caption) ? WaitForDialogTitled(orvane.id(), title) : nullptr;
 }
 
-HWND FromPopupMenu(const OrvaneProcess& orvane, HWND window, WORD letter, const std::wstring& title) {
+HWND FromPopupMenu(const OrvaneProcess &orvane, HWND window, WORD letter, const std::wstring &title) {
     PressKeys(window, {VK_SHIFT, VK_F10});
-    if (!WaitFor([&] { return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr; }, 5s)) return nullptr;
+    if (!WaitFor(
+            [&] {
+                return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr;
+            },
+            5s))
+        return nullptr;
     // The letter again while the menu stays open: one typed as it appears can miss it.
     for (int press = 0; press < 3 && FindProcessWindow(orvane.id(), kPopupMenuClass); ++press) {
         PressKeys(window, {letter});
-        if (HWND dialog = WaitForDialogTitled(orvane.id(), title, 2s)) return dialog;
+        if (HWND dialog = WaitForDialogTitled(orvane.id(), title, 2s))
+            return dialog;
     }
     return WaitForDialogTitled(orvane.id(), title);
 }
@@ -88,34 +100,43 @@ const std::vector<ProgramWindow> kProgramWindows = {
 };
 // clang-format on
 
-bool AnswerPassword(DWORD processId, const std::wstring& typed) {
+bool AnswerPassword(DWORD processId, const std::wstring &typed) {
     HWND box = WaitForDialogTitled(processId, L"Orvane");
-    if (!box || ControlText(box, IDC_PROMPT) != kPasswordPrompt) return false;
+    if (!box || ControlText(box, IDC_PROMPT) != kPasswordPrompt)
+        return false;
     SetControlText(box, IDC_BOX_TEXT, typed);
     PressButton(box, IDOK);
     return Gone(box);
 }
 
-void PrepareForEveryWindow(const ProgramFolder& folder) {
+void PrepareForEveryWindow(const ProgramFolder &folder) {
     const std::wstring at = folder.path() + L"\\";
-    WriteBytes(at + L"Programs.lst", CustomListFile({{"Notes", "C:\\windows\\notepad.exe", "C:\\windows"}, {"Probe", "C:\\probe.exe", ""}}));
+    WriteBytes(at + L"Programs.lst",
+               CustomListFile({{"Notes", "C:\\windows\\notepad.exe", "C:\\windows"}, {"Probe", "C:\\probe.exe", ""}}));
     WriteBytes(at + L"Sites.lst", WebListFile({{"Alpha", "http://a", "1"}, {"Beta", "http://b", "0"}}));
     CopyInto(EnvironmentPath(L"ORVANE_PICTURES") + L"\\Wallpaper_Wide.png", folder.path());
-    WriteBytes(folder.settingsFile(), SettingsText({{13, "480"}, {20, Utf8(folder.path())}, {38, "1"}, {39, "19200"}, {28, Utf8(at + L"Programs.lst")},
-                                                    {30, Utf8(at + L"Wallpaper_Wide.png")}, {33, Utf8(at + L"Sites.lst")}}));
+    WriteBytes(folder.settingsFile(), SettingsText({{13, "480"},
+                                                    {20, Utf8(folder.path())},
+                                                    {38, "1"},
+                                                    {39, "19200"},
+                                                    {28, Utf8(at + L"Programs.lst")},
+                                                    {30, Utf8(at + L"Wallpaper_Wide.png")},
+                                                    {33, Utf8(at + L"Sites.lst")}}));
 }
 
-std::string CustomListFile(const std::vector<CustomEntry>& entries) {
+std::string CustomListFile(const std::vector<CustomEntry> &entries) {
     std::string text;
     for (std::string CustomEntry::*field : {&CustomEntry::name, &CustomEntry::program, &CustomEntry::folder})
-        for (std::size_t i = 0; i < 64; ++i) text += (i < entries.size() ? entries[i].*field : "") + "\r\n";
+        for (std::size_t i = 0; i < 64; ++i)
+            text += (i < entries.size() ? entries[i].*field : "") + "\r\n";
     return text;
 }
 
-std::string WebListFile(const std::vector<std::array<std::string, 3>>& rows, const std::string& groups) {
+std::string WebListFile(const std::vector<std::array<std::string, 3>> &rows, const std::string &groups) {
     std::string text;
-    for (const auto& row : rows) text += row[0] + "\r\n" + row[1] + "\r\n" + row[2] + "\r\n";
+    for (const auto &row : rows)
+        text += row[0] + "\r\n" + row[1] + "\r\n" + row[2] + "\r\n";
     return text + "***\r\n" + groups + "\r\n";
 }
 
-}  // namespace orvane::e2e
+} // namespace orvane::e2e

@@ -13,11 +13,11 @@
 namespace orvane::e2e {
 
 struct ProgramWindow {
-    const wchar_t* name;
+    const wchar_t *name;
     // Opens it from the bar, through the windows it is reached from; the window once it shows, else null.
-    HWND (*open)(const OrvaneProcess& orvane, HWND bar);
+    HWND (*open)(const OrvaneProcess &orvane, HWND bar);
     // Closes it the user's way, then the windows open() went through; true once all of them have gone.
-    bool (*close)(const OrvaneProcess& orvane, HWND window);
+    bool (*close)(const OrvaneProcess &orvane, HWND window);
 };
 
 // The bar's dialogs, the skin chooser, the clock, the custom programs window with its editor and their dialogs, the
@@ -25,23 +25,25 @@ struct ProgramWindow {
 extern const std::vector<ProgramWindow> kProgramWindows;
 
 // Picks the window's menu item with this caption; the dialog with this title it opens, once it shows, else null.
-HWND FromMenu(const OrvaneProcess& orvane, HWND window, const wchar_t* caption, const std::wstring& title);
+HWND FromMenu(const OrvaneProcess &orvane, HWND window, const wchar_t *caption, const std::wstring &title);
 // Picks an item of the window's popup menu (Shift+F10) by its access letter, from the keyboard; the dialog with this
 // title it opens, once it shows, else null.
-HWND FromPopupMenu(const OrvaneProcess& orvane, HWND window, WORD letter, const std::wstring& title);
+HWND FromPopupMenu(const OrvaneProcess &orvane, HWND window, WORD letter, const std::wstring &title);
 // Types this into the wallpaper's box asking for the return password (of the process, of any for 0) and presses OK;
 // true once the box has gone.
-bool AnswerPassword(DWORD processId, const std::wstring& typed);
+bool AnswerPassword(DWORD processId, const std::wstring &typed);
 
 // Writes the settings file, a custom programs list, a web list and a wallpaper into the folder, so that every window
 // of the table opens without a message.
-void PrepareForEveryWindow(const ProgramFolder& folder);
+void PrepareForEveryWindow(const ProgramFolder &folder);
 
 // One line of a custom programs list.
-struct CustomEntry { std::string name, program, folder; };
+struct CustomEntry {
+    std::string name, program, folder;
+};
 // The 192 lines of a custom programs list file: 64 names, 64 programs, 64 folders.
-std::string CustomListFile(const std::vector<CustomEntry>& entries);
+std::string CustomListFile(const std::vector<CustomEntry> &entries);
 // A web list file: three lines per row (name, address, check), "***", the groups, a final empty line.
-std::string WebListFile(const std::vector<std::array<std::string, 3>>& rows, const std::string& groups = "");
+std::string WebListFile(const std::vector<std::array<std::string, 3>> &rows, const std::string &groups = "");
 
-}  // namespace orvane::e2e
+} // namespace orvane::e2e

@@ -12,12 +12,18 @@
 
 namespace orvane::fuzz {
 
-inline std::string Bytes(const std::uint8_t* data, std::size_t size) { return {reinterpret_cast<const char*>(data), size}; }
+inline std::string Bytes(const std::uint8_t *data, std::size_t size) {
+    return {reinterpret_cast<const char *>(data), size};
+}
 
 // Files are 8-bit text in the ANSI code page; the fake converts as Windows-1252 does.
-inline std::wstring AnsiText(const std::uint8_t* data, std::size_t size) { return testing::DecodeWindows1252(Bytes(data, size)); }
+inline std::wstring AnsiText(const std::uint8_t *data, std::size_t size) {
+    return testing::DecodeWindows1252(Bytes(data, size));
+}
 
-}  // namespace orvane::fuzz
+} // namespace orvane::fuzz
 
-#define FUZZ_CHECK(condition) \
-    ((condition) ? void() : (std::fprintf(stderr, "%s:%d: property broken: %s\n", __FILE__, __LINE__, #condition), std::abort()))
+#define FUZZ_CHECK(condition)                                                                                          \
+    ((condition)                                                                                                       \
+         ? void()                                                                                                      \
+         : (std::fprintf(stderr, "%s:%d: property broken: %s\n", __FILE__, __LINE__, #condition), std::abort()))

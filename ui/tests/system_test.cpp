@@ -25,7 +25,8 @@ using namespace testsupport;
 
 // The real system, with messages recorded instead of shown, so launches that report need no user to answer them.
 struct RecordingSystem : Win32System {
-    MessageAnswer showMessage(const std::wstring& text, const std::wstring& caption, MessageIcon, MessageButtons) override {
+    MessageAnswer showMessage(const std::wstring &text, const std::wstring &caption, MessageIcon,
+                              MessageButtons) override {
         messages.push_back(caption + L": " + text);
         return MessageAnswer::Ok;
     }
@@ -35,24 +36,31 @@ struct RecordingSystem : Win32System {
 // A folder of its own for each test, its name beyond ASCII.
 class RealSystem : public ::testing::Test {
 protected:
-    const std::wstring folder = FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"),
-        L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()) + L" \u00e4");
+    const std::wstring folder =
+        FreshFolder(EnvironmentPath(L"ORVANE_TEST_ROOT"),
+                    L"system " + Wide(::testing::UnitTest::GetInstance()->current_test_info()->name()) + L" \u00e4");
     RecordingSystem sys;
 };
 
 TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
     const std::wstring file = folder + L"\\a file.txt";
     WriteBytes(file, "x");
-    const std::tuple<std::wstring, bool, bool> paths[] = {  // path, a file, a file or folder
-        {file, true, true},          {folder, false, true},   {folder + L"\\", false, true},
-        {L"C:\\", false, true},      {L"", false, false},     {folder + L"\\missing.txt", false, false},
-        {folder + L"\\a*.t?t", true, false},  // a search, as the old runtime's existence test was
+    const std::tuple<std::wstring, bool, bool> paths[] = {
+        // path, a file, a file or folder
+        {file, true, true},
+        {folder, false, true},
+        {folder + L"\\", false, true},
+        {L"C:\\", false, true},
+        {L"", false, false},
+        {folder + L"\\missing.txt", false, false},
+        {folder + L"\\a*.t?t", true, false}, // a search, as the old runtime's existence test was
     };
-    for (const auto& [path, isFile, exists] : paths) {
+    for (const auto &[path, isFile, exists] : paths) {
         EXPECT_EQ(sys.fileExists(path), isFile) << Utf8(path);
         EXPECT_EQ(sys.pathExists(path), exists) << Utf8(path);
     }
-    EXPECT_EQ(std::pair(sys.fileFacts(file)->size, sys.fileFacts(file)->lastChange.year), std::pair(std::uint64_t(1), sys.now().year));
+    EXPECT_EQ(std::pair(sys.fileFacts(file)->size, sys.fileFacts(file)->lastChange.year),
+              std::pair(std::uint64_t(1), sys.now().year));
     EXPECT_FALSE(sys.fileFacts(folder).has_value());
 }
 
@@ -79,19 +87,20 @@ TEST_F(RealSystem, BytesReadBackExactlyAndALockedFileIsNeitherReadNorWrittenNorD
 }
 
 TEST_F(RealSystem, AnsiCodecFollowsTheCodePage) {
-    if (GetACP() != 1252) GTEST_SKIP() << "code page " << GetACP();
+    if (GetACP() != 1252)
+        GTEST_SKIP() << "code page " << GetACP();
     EXPECT_EQ(sys.toAnsi(L"D\u00fcsseldorf \u20ac \u0141"), "D\xFCsseldorf \x80 ?");
     EXPECT_EQ(sys.fromAnsi("D\xFCsseldorf \x80"), L"D\u00fcsseldorf \u20ac");
 }
 
 TEST_F(RealSystem, RegistryStringsAreReadOnlyWhenTheyAreStringsAndTheDocumentsFolderIsTheSystems) {
-    const wchar_t* key = L"Software\\Orvane Tests";
+    const wchar_t *key = L"Software\\Orvane Tests";
     const DWORD number = 7;
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"text", REG_SZ, L"C:\\Some where", sizeof L"C:\\Some where");
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"number", REG_DWORD, &number, sizeof number);
     RegSetKeyValueW(HKEY_CURRENT_USER, key, L"expandable", REG_EXPAND_SZ, L"%TEMP%", 14);
     EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, L"text"), L"C:\\Some where");
-    for (const wchar_t* value : {L"number", L"expandable", L"missing"})
+    for (const wchar_t *value : {L"number", L"expandable", L"missing"})
         EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, key, value), std::nullopt) << Utf8(value);
     EXPECT_EQ(sys.registryString(RegistryRoot::CurrentUser, L"Software\\No Such Key", L"x"), std::nullopt);
     RegDeleteTreeW(HKEY_CURRENT_USER, key);
@@ -113,9 +122,13 @@ TEST_F(RealSystem, PendingEventsRunAndAQuitIsKeptForTheMainLoop) {
     EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) && message.wParam == 3u);
     // A key typed meanwhile reaches the dialog's own keys: Esc cancels it.
     static bool cancelled = false;
-    HWND dialog = CreateDialogParamW(nullptr, MAKEINTRESOURCEW(IDD_YOUR_PROGRAM), nullptr, [](HWND, UINT m, WPARAM w, LPARAM) -> INT_PTR {
-        cancelled |= m == WM_COMMAND && LOWORD(w) == IDCANCEL;
-        return FALSE; }, 0);
+    HWND dialog = CreateDialogParamW(
+        nullptr, MAKEINTRESOURCEW(IDD_YOUR_PROGRAM), nullptr,
+        [](HWND, UINT m, WPARAM w, LPARAM) -> INT_PTR {
+            cancelled |= m == WM_COMMAND && LOWORD(w) == IDCANCEL;
+            return FALSE;
+        },
+        0);
     PostMessageW(GetDlgItem(dialog, IDC_PROGRAM), WM_KEYDOWN, VK_ESCAPE, 1);
     sys.processPendingEvents();
     EXPECT_TRUE(cancelled);
@@ -140,11 +153,12 @@ TEST_F(RealSystem, ADocumentOfTheCurrentFolderOpensInItsToolThenRunningItBringsI
     // Shown, not just created: only a visible window counts as running.
     const HWND tool = FindProcessWindow(0, L"Static", L"probe", 10s);
     ASSERT_NE(tool, nullptr);
-    const UniqueWindow other(CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, 0, 0, 0, 0));
+    const UniqueWindow other(
+        CreateWindowW(L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, 0, 0, 0, 0));
     SetForegroundWindow(other.get());
     LaunchSuiteProgram(app, program, document);
     EXPECT_EQ(sys.messages, std::vector<std::wstring>{L"Orvane: Program running already"});
-    Sleep(800);  // time for a start that should not happen to show, and for the switch to the tool
+    Sleep(800); // time for a start that should not happen to show, and for the switch to the tool
     const std::size_t starts = ReadProbeLog(folder + L"\\probe.log").size();
     EXPECT_EQ(std::tuple(app.LastLaunchResult, starts, GetForegroundWindow()), std::tuple(1, 1u, tool));
     PostMessageW(tool, WM_CLOSE, 0, 0);
@@ -159,15 +173,18 @@ TEST_F(RealSystem, ADocumentOfTheCurrentFolderOpensInItsToolThenRunningItBringsI
 
 TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
     constexpr DWORD kShown = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
-    const auto make = [](const wchar_t* title, DWORD style, DWORD exStyle = 0, HWND parent = nullptr) {
-        return UniqueWindow(CreateWindowExW(exStyle, L"STATIC", title, style, 10, 10, 120, 60, parent, 0, 0, 0)); };
+    const auto make = [](const wchar_t *title, DWORD style, DWORD exStyle = 0, HWND parent = nullptr) {
+        return UniqueWindow(CreateWindowExW(exStyle, L"STATIC", title, style, 10, 10, 120, 60, parent, 0, 0, 0));
+    };
     const UniqueWindow bar = make(L"Orvane", kShown), plain = make(L"Listed plain", kShown),
                        lower = make(L"Listed lower", kShown);
-    const UniqueWindow others[] = {
-        make(L"Listed owned app window", kShown, WS_EX_APPWINDOW, plain.get()), make(L"Hidden", WS_OVERLAPPEDWINDOW),
-        make(L"Child", WS_CHILD | WS_VISIBLE, 0, plain.get()), make(L"Owned", kShown, 0, plain.get()),
-        make(L"Owned popup app window", WS_POPUP | WS_VISIBLE, WS_EX_APPWINDOW, plain.get()),
-        make(L"Tool", kShown, WS_EX_TOOLWINDOW), make(L"", kShown)};
+    const UniqueWindow others[] = {make(L"Listed owned app window", kShown, WS_EX_APPWINDOW, plain.get()),
+                                   make(L"Hidden", WS_OVERLAPPEDWINDOW),
+                                   make(L"Child", WS_CHILD | WS_VISIBLE, 0, plain.get()),
+                                   make(L"Owned", kShown, 0, plain.get()),
+                                   make(L"Owned popup app window", WS_POPUP | WS_VISIBLE, WS_EX_APPWINDOW, plain.get()),
+                                   make(L"Tool", kShown, WS_EX_TOOLWINDOW),
+                                   make(L"", kShown)};
     ASSERT_TRUE(bar && plain && lower && std::ranges::none_of(others, std::logical_not<>()));
     SetWindowPos(plain.get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     SetWindowPos(lower.get(), plain.get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -175,9 +192,10 @@ TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
     Win32System sys;
     App app(sys);
     app.MainWindowRef = ToRef(bar.get()), RefreshWindowList(app);
-    std::vector<std::wstring> ours;  // the listed windows of this thread, in list order
-    for (const WindowListEntry& entry : app.windowList)
-        if (GetWindowThreadProcessId(ToHwnd(entry.handle), nullptr) == GetCurrentThreadId()) ours.push_back(entry.title);
+    std::vector<std::wstring> ours; // the listed windows of this thread, in list order
+    for (const WindowListEntry &entry : app.windowList)
+        if (GetWindowThreadProcessId(ToHwnd(entry.handle), nullptr) == GetCurrentThreadId())
+            ours.push_back(entry.title);
     EXPECT_LT(std::ranges::find(ours, L"Listed plain"), std::ranges::find(ours, L"Listed lower"));
     std::ranges::sort(ours);
     // An owned popup reports its owner as parent, so it stays out too.
@@ -191,8 +209,8 @@ TEST(OsVersion, AsWineReportsEachPretendedWindowsToAProgramWithOurManifest) {
     const std::wstring probe = EnvironmentPath(L"ORVANE_OSVERSION_PROBE");
     const std::wstring key = L"Software\\Wine\\AppDefaults\\osversion_probe.exe";
     const std::pair<std::wstring, intptr_t> versions[] = {{L"win2k", 500}, {L"winxp64", 502}, {L"vista", 600},
-                                                       {L"win7", 601},  {L"win81", 603},   {L"win10", 1000}};
-    for (const auto& [name, expected] : versions) {
+                                                          {L"win7", 601},  {L"win81", 603},   {L"win10", 1000}};
+    for (const auto &[name, expected] : versions) {
         RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), L"Version", REG_SZ, name.c_str(),
                         DWORD((name.size() + 1) * sizeof(wchar_t)));
         EXPECT_EQ(_wspawnl(_P_WAIT, probe.c_str(), (L"\"" + probe + L"\"").c_str(), nullptr), expected) << Utf8(name);
@@ -200,5 +218,5 @@ TEST(OsVersion, AsWineReportsEachPretendedWindowsToAProgramWithOurManifest) {
     RegDeleteTreeW(HKEY_CURRENT_USER, key.c_str());
 }
 
-}  // namespace
-}  // namespace orvane::ui
+} // namespace
+} // namespace orvane::ui
