@@ -20,7 +20,7 @@ ensure_packages() {
   "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}" >/dev/null
 }
 
-NATIVE_PACKAGES=(cmake ninja-build g++ libgtest-dev)
+NATIVE_PACKAGES=(cmake ninja-build g++ libgtest-dev clang-format)
 # The sanitizers and libFuzzer come with clang's runtime package.
 SANITIZE_PACKAGES=(cmake ninja-build clang libclang-rt-14-dev libgtest-dev)
 # The menu icons are built from the Tango theme with python3 and rsvg-convert.
