@@ -7,6 +7,11 @@
 
 namespace orvane::ui {
 
+// An empty text as the null pointer the system's calls take for "none".
+inline const wchar_t *OrNull(const std::wstring &text) {
+    return text.empty() ? nullptr : text.c_str();
+}
+
 class Win32System : public System {
 public:
     // Message boxes and file dialogs are owned by the active window of the
