@@ -21,9 +21,10 @@ int wmain(int argc, wchar_t **argv) {
     if (step == L"rect" && argc > 2) {
         HWND dialog = e2e::WaitForDialogTitled(0, argv[2], kLong);
         RECT r{};
-        return dialog && GetWindowRect(dialog, &r)
-               ? std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top),
-               0 : 1;
+        if (!dialog || !GetWindowRect(dialog, &r))
+            return 1;
+        std::printf("%ldx%ld+%ld+%ld\n", r.right - r.left, r.bottom - r.top, r.left, r.top);
+        return 0;
     }
     if (step == L"leave" && argc > 2) {
         HWND window = FindProcessWindow(0, e2e::kDialogClass, argv[2]);
@@ -50,6 +51,8 @@ int wmain(int argc, wchar_t **argv) {
         return e2e::PickMenuItem(bar, argv[2]) ? 0 : 1;
     if (step != L"close-bar")
         return 0;
-    PostMessageW(bar, WM_CANCELMODE, 0, 0), PostMessageW(bar, WM_CLOSE, 0, 0); // after closing a menu left open
+    // Closes the bar after closing a menu left open.
+    PostMessageW(bar, WM_CANCELMODE, 0, 0);
+    PostMessageW(bar, WM_CLOSE, 0, 0);
     return e2e::Gone(bar, kLong) ? 0 : 1;
 }

@@ -18,12 +18,14 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
          ++attempt)
         Sleep(10);
     DWORD written = 0;
-    WriteFile(log, record.data(), DWORD(record.size()), &written, nullptr), CloseHandle(log);
+    WriteFile(log, record.data(), DWORD(record.size()), &written, nullptr);
+    CloseHandle(log);
     if (GetFileAttributesW((ExeFolder() + L"\\probe.window").c_str()) == INVALID_FILE_ATTRIBUTES)
         return 0;
 
     std::wstring title(path, GetModuleFileNameW(nullptr, path, MAX_PATH * 4));
-    title = title.substr(title.find_last_of(L'\\') + 1), title.resize(title.rfind(L'.'));
+    title = title.substr(title.find_last_of(L'\\') + 1);
+    title.resize(title.rfind(L'.'));
     // A plain static window: closing it destroys it, which ends the loop.
     HWND window = CreateWindowW(L"STATIC", title.c_str(), WS_OVERLAPPEDWINDOW, 300, 300, 300, 150, 0, 0, instance, 0);
     ShowWindow(window, SW_SHOWNORMAL);

@@ -74,7 +74,8 @@ void RemoveTree(const std::wstring &folder) {
 std::wstring FreshFolder(const std::wstring &root, const std::wstring &name) {
     const std::wstring folder = root + L"\\" + name;
     std::error_code error;
-    RemoveTree(folder), std::filesystem::create_directories(folder, error);
+    RemoveTree(folder);
+    std::filesystem::create_directories(folder, error);
     return folder;
 }
 

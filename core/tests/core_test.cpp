@@ -154,8 +154,10 @@ TEST_F(Core, MissingOrTooLargeFilesLeaveInitialValuesAndOnlyTheOldRuntimesErrorM
     EXPECT_EQ(sys.journal, (Lines{kNotFound + kIni + L"\r\n\r\n", L"cursor", L"delete " + kIni, L"write " + kIni}))
         << "the old file replaced by a fresh one";
     sys.errorDescription = L"Access is denied.";
-    for (const FileError error : {75, -1})
-        sys.createError = error, SaveSettings(app);
+    for (const FileError error : {75, -1}) {
+        sys.createError = error;
+        SaveSettings(app);
+    }
     EXPECT_EQ(sys.messages.size(), 2u) << "one missing, then one failed save";
     EXPECT_EQ(sys.journal.back(),
               L"message Cannot save this file :\r\n\r\n" + kIni + kReason + L"\"Access is denied.\"\r\n");
@@ -274,14 +276,17 @@ TEST_F(Core, SuiteProgramDocumentBecomesAPathQuotedWhenItHasABlankAndTheProgramI
     EXPECT_EQ(std::pair(sys.started.back().showCode, app.LastLaunchResult), std::pair(1, std::int16_t(100)));
     EXPECT_TRUE(sys.messages.empty());
     sys.journal.clear();
-    for (const auto task : {std::optional<long long>(), std::optional<long long>(70000)})
-        sys.nextTask = task, launch(program);
+    for (const auto task : {std::optional<long long>(), std::optional<long long>(70000)}) {
+        sys.nextTask = task;
+        launch(program);
+    }
     EXPECT_EQ(app.LastLaunchResult, 100) << "a refused start or an oversized task keeps the previous result";
     EXPECT_EQ(sys.journal, (Lines{L"start " + program, L"start " + program}));
     app.ProgramFolder = L"b:\\Orvane"; // a drive the scan does not reach
     // Each file added wins over the ones before it; the scan runs from C to the six characters after Z.
     const std::wstring stored = L"G:\\T\\Tool.exe";
-    sys.journal.clear(), launch(stored, L"a.txt");
+    sys.journal.clear();
+    launch(stored, L"a.txt");
     EXPECT_EQ(sys.journal, (Lines{kNotFound + stored + L"\r\n\r\n", L"cursor"})) << "found nowhere";
     for (const std::wstring found : {L"b:\\Orvane\\Tool.exe", L"b:\\Drive_G\\T\\Tool.exe", L"`:\\Drive_G\\T\\Tool.exe",
                                      L"C:\\Drive_G\\T\\Tool.exe", L"C:\\TellmarkSet\\Tool.exe", stored.c_str()}) {
@@ -313,7 +318,9 @@ TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNa
         {L"C:\\My Pages\\index.html", L" \"C:\\My Pages\\index.html\""},
         {L"\"in quotes\"", L" \"\"in quotes\"\""}};
     for (const auto &[argument, tail] : cases) {
-        sys.journal.clear(), LoadCustomBrowser(app, argument), LaunchWithArgument(app, L"C:\\P\\p.exe", argument);
+        sys.journal.clear();
+        LoadCustomBrowser(app, argument);
+        LaunchWithArgument(app, L"C:\\P\\p.exe", argument);
         EXPECT_EQ(sys.journal,
                   (Lines{L"events", L"start C:\\Web\\web.exe" + tail, L"events", L"start C:\\P\\p.exe" + tail}));
     }
@@ -373,7 +380,8 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
                      L"message Cannot save this file :\r\n\r\n( no name specified or name is empty ! )" + kReason +
                          L"(unknown)\r\n"}));
     EXPECT_EQ(sys.messages[1].icon, MessageIcon::Critical);
-    app.OsVersionName = L"before", sys.version = {10, 0};
+    app.OsVersionName = L"before";
+    sys.version = {10, 0};
     DetectOsVersion(app);
     EXPECT_EQ(std::tuple(app.OsVersionCode, app.OsMinorVersion, app.OsVersionName), std::tuple(10, 0, L"before"))
         << "a version without a label keeps the old name";

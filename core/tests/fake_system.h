@@ -104,7 +104,10 @@ public:
         return current;
     }
     bool setCurrentFolder(S folder) override {
-        return folders.count(folder) && (current = folder, true);
+        if (!folders.count(folder))
+            return false;
+        current = folder;
+        return true;
     }
     std::optional<FileFacts> fileFacts(S path) override {
         return fileExists(path) ? std::optional(FileFacts{files[path].size(), fileTime}) : std::nullopt;

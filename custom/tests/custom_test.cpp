@@ -170,7 +170,12 @@ TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
         sys.answers = {c.answer};
         CustomListEditor editor(app, table);
         editor.currentLine = c.line;
-        EXPECT_EQ(c.act ? (editor.*c.act)() : (editor.insertLine(), true), c.changed);
+        bool changed = true;
+        if (c.act)
+            changed = (editor.*c.act)();
+        else
+            editor.insertLine();
+        EXPECT_EQ(changed, c.changed);
         std::vector<std::wstring> names;
         for (std::size_t i : {0, 1, 9, 10, 11, 62, 63}) {
             const std::wstring &name = names.emplace_back(table.DisplayNames[i]);
@@ -188,9 +193,11 @@ TEST_F(Custom, EditorInsertDeleteAndMoveKeepTheirQuirks) {
 TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
     table = Filled({0, 1});
     CustomListEditor editor(app, table);
-    editor.setName(1, L"  "), editor.leaveName(1);
+    editor.setName(1, L"  ");
+    editor.leaveName(1);
     EXPECT_EQ(table.ProgramPaths[1], L"") << "a blank name takes its program with it";
-    editor.currentLine = 0, editor.takeEntry(L"", L"C:\\Else");
+    editor.currentLine = 0;
+    editor.takeEntry(L"", L"C:\\Else");
     EXPECT_EQ(table.StartupFolders[0], L"C:\\F0") << "an empty path returns nothing";
     editor.takeEntry(L"C:\\Q.exe", L"");
     EXPECT_EQ(table.ProgramPaths[0] + L"|" + table.StartupFolders[0], L"C:\\Q.exe|");
@@ -211,14 +218,16 @@ TEST_F(Custom, EditorFieldsEntryLoadingAndSaving) {
         std::tuple(L"Cannot load this file :\r\n\r\nC:\\Lists\\Huge.lst\r\n\r\nIt holds 67108865 bytes, more than the "
                    L"67108864 the program reads. Nothing of it was loaded, and the file is left as it is.\r\n",
                    L"Other", L"C:\\Lists\\Other.lst"));
-    editor.insertLine(), sys.answers = {MessageAnswer::Cancel};
+    editor.insertLine();
+    sys.answers = {MessageAnswer::Cancel};
     EXPECT_FALSE(editor.loadList());
     EXPECT_EQ(sys.messages.back().text,
               L"Save this list of files before loading a new one?\r\n\r\nC:\\Lists\\Other.lst");
     EXPECT_EQ(sys.fileRequests.size(), 2u);
 
     // What a fresh file holds, the dialog's title and the editor's caption afterwards: the e2e CustomPrograms test.
-    sys.fileAnswers = {L"C:\\Lists\\New.lst"}, sys.current = L"C:\\Work";
+    sys.fileAnswers = {L"C:\\Lists\\New.lst"};
+    sys.current = L"C:\\Work";
     ASSERT_TRUE(editor.saveList());
     const FileRequest &save = sys.fileRequests.back();
     EXPECT_TRUE(save.save);
@@ -234,7 +243,8 @@ TEST_F(Custom, InformationOfAFileAndTheX86ToggleAtADrivesRoot) {
                                      L"Altered: [] 2025-3-4 day 2 [] 17:30:0\r\n\r\n"
                                      L"Time: [HH:mm:ss] 9:5:7\r\nDate: [dddd, MMM d yyyy] 2026-11-22 day 0\r\n");
     // Copying it: the e2e CustomPrograms tests.
-    sys.addFile(L"C:\\Empty.txt", ""), sys.fileTime = {2025, 1, 2, 4, 0, 0, 0};
+    sys.addFile(L"C:\\Empty.txt", "");
+    sys.fileTime = {2025, 1, 2, 4, 0, 0, 0};
     info = InformationOf(app, L"C:\\Empty.txt");
     EXPECT_EQ(info.size + L"|" + info.altered, L"|[] 2025-1-2 day 4") << "no size for 0 bytes, no time at midnight";
     info = InformationOf(app, L"C:");

@@ -61,8 +61,10 @@ std::vector<std::wstring> AccessKeyClashes(HWND window) {
     for (const auto &[opener, texts] : menus) {
         std::map<wchar_t, std::pair<int, std::wstring>> carriers; // how many, and their texts
         for (const std::wstring &text : texts)
-            if (const wchar_t key = AccessKey(text))
-                ++carriers[key].first, carriers[key].second += L" " + text;
+            if (const wchar_t key = AccessKey(text)) {
+                ++carriers[key].first;
+                carriers[key].second += L" " + text;
+            }
         for (const auto &[key, carrying] : carriers)
             if (carrying.first > 1)
                 clashes.push_back(std::wstring{key, L':'} + carrying.second);

@@ -35,7 +35,8 @@ OrvaneProcess::OrvaneProcess(const ProgramFolder &folder) {
     if (CreateProcessW(exe.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.path().c_str(),
                        &startup, &info)) {
         CloseHandle(info.hThread);
-        process_ = info.hProcess, id_ = info.dwProcessId;
+        process_ = info.hProcess;
+        id_ = info.dwProcessId;
     }
 }
 
@@ -97,10 +98,11 @@ bool EscapeFrom(HWND window) {
 
 bool AnswerMessage(DWORD processId, const std::wstring &text, int buttonId, const std::wstring &title) {
     HWND box = WaitForDialogTitled(processId, title);
-    if (!box || MessageBoxText(box) != text)
-        return std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(),
-                            Utf8(MessageBoxText(box)).c_str()),
-               false;
+    if (!box || MessageBoxText(box) != text) {
+        std::fprintf(stderr, "expected the message \"%s\", got \"%s\"\n", Utf8(text).c_str(),
+                     Utf8(MessageBoxText(box)).c_str());
+        return false;
+    }
     PressButton(box, buttonId);
     return Gone(box);
 }
@@ -159,7 +161,8 @@ void ClickAt(POINT point) {
 COLORREF ScreenColour(POINT point) {
     HDC screen = GetDC(nullptr);
     const COLORREF colour = GetPixel(screen, point.x, point.y);
-    return ReleaseDC(nullptr, screen), colour;
+    ReleaseDC(nullptr, screen);
+    return colour;
 }
 
 HWND WaitForDialogTitled(DWORD processId, const std::wstring &title, std::chrono::milliseconds timeout) {
@@ -187,7 +190,8 @@ bool AnswerFileDialog(HWND dialog, const std::wstring &fileName) {
     if (!name)
         return false;
     SendMessageW(name, WM_SETTEXT, 0, LPARAM(fileName.c_str()));
-    return PressButton(dialog, IDOK), true;
+    PressButton(dialog, IDOK);
+    return true;
 }
 
 namespace {
@@ -206,7 +210,8 @@ template <class Request> std::vector<std::wstring> AskRemote(HWND listView, UINT
                                            MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)
                           : nullptr;
     auto *remoteText = reinterpret_cast<wchar_t *>(static_cast<char *>(block) + kRequestBytes);
-    request.pszText = remoteText, request.cchTextMax = kChars;
+    request.pszText = remoteText;
+    request.cchTextMax = kChars;
     std::vector<std::wstring> texts;
     for (int index = 0; index < count; ++index) {
         std::wstring text(kChars, L'\0');
@@ -228,7 +233,8 @@ int ListViewRows(HWND listView) {
 
 std::vector<std::wstring> ListViewTexts(HWND listView, int column) {
     LVITEMW item{};
-    item.mask = LVIF_TEXT, item.iSubItem = column;
+    item.mask = LVIF_TEXT;
+    item.iSubItem = column;
     return AskRemote(listView, LVM_GETITEMTEXTW, ListViewRows(listView), item);
 }
 
@@ -256,8 +262,10 @@ std::wstring ClipboardText() {
         return {};
     std::wstring text;
     HANDLE data = GetClipboardData(CF_UNICODETEXT);
-    if (const auto *chars = data ? static_cast<const wchar_t *>(GlobalLock(data)) : nullptr)
-        text.assign(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t))), GlobalUnlock(data);
+    if (const auto *chars = data ? static_cast<const wchar_t *>(GlobalLock(data)) : nullptr) {
+        text.assign(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t)));
+        GlobalUnlock(data);
+    }
     CloseClipboard();
     return text;
 }

@@ -36,8 +36,10 @@ bool EscapeToBar(const OrvaneProcess &, HWND window) {
         HWND owner = GetWindow(window, GW_OWNER);
         wchar_t type[64] = {};
         GetClassNameW(owner, type, 64);
-        if (!EscapeFrom(window))
-            return std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str()), false;
+        if (!EscapeFrom(window)) {
+            std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str());
+            return false;
+        }
         window = std::wstring(type) == kMainWindowClass ? nullptr : owner;
     }
     return true;

@@ -24,6 +24,9 @@ inline std::wstring AnsiText(const std::uint8_t *data, std::size_t size) {
 } // namespace orvane::fuzz
 
 #define FUZZ_CHECK(condition)                                                                                          \
-    ((condition)                                                                                                       \
-         ? void()                                                                                                      \
-         : (std::fprintf(stderr, "%s:%d: property broken: %s\n", __FILE__, __LINE__, #condition), std::abort()))
+    do {                                                                                                               \
+        if (!(condition)) {                                                                                            \
+            std::fprintf(stderr, "%s:%d: property broken: %s\n", __FILE__, __LINE__, #condition);                      \
+            std::abort();                                                                                              \
+        }                                                                                                              \
+    } while (false)

@@ -38,7 +38,8 @@ TEST(ClockWindow, ShowsDateAndTimeAndAnyKeyOrClickClosesIt) {
         std::thread driver([&] {
             HWND dialog = FindProcessWindow(GetCurrentProcessId(), L"#32770", L"Clock", 10s);
             GetLocalTime(&before);
-            date = TextOf(GetDlgItem(dialog, IDC_CLOCK_DATE)), time = TextOf(GetDlgItem(dialog, IDC_CLOCK_TIME));
+            date = TextOf(GetDlgItem(dialog, IDC_CLOCK_DATE));
+            time = TextOf(GetDlgItem(dialog, IDC_CLOCK_TIME));
             seconds = TextOf(GetDlgItem(dialog, IDC_CLOCK_SECONDS));
             GetLocalTime(&after);
             // Keys are posted to the focus, the key catcher, so they pass the dialog manager as typed keys do.
@@ -71,7 +72,8 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
     Win32System sys;
     App app(sys);
     Skin skin;
-    app.settings.SkinFile = L"C:\\elsewhere\\skin_slate.BMP", app.settings.SkinFolder = folder;
+    app.settings.SkinFile = L"C:\\elsewhere\\skin_slate.BMP";
+    app.settings.SkinFolder = folder;
     std::vector<std::wstring> applied;
     int adjusted = 0;
 
@@ -90,8 +92,10 @@ TEST(SkinChooser, OffersTheFolderSkinsSelectsTheOneInUseAndAppliesOnlyAUsableCho
             PostMessageW(files, WM_KEYDOWN, key, 0);
         PostMessageW(GetDlgItem(dialog, IDC_ADJUST_SKIN), BM_CLICK, 0, 0);
         PostMessageW(files, WM_KEYDOWN, VK_ESCAPE, 0);
-        if (!Gone(dialog, 10s))
-            ADD_FAILURE() << "Esc leaves it open", EndDialog(dialog, 0);
+        if (!Gone(dialog, 10s)) {
+            ADD_FAILURE() << "Esc leaves it open";
+            EndDialog(dialog, 0);
+        }
     });
     ShowSkinChooser(app, skin, nullptr,
                     {[&] {

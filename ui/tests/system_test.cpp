@@ -191,7 +191,8 @@ TEST(RealWindowList, OnlyTheWindowsATaskBarShowsComeOutTopOfTheZOrderFirst) {
 
     Win32System sys;
     App app(sys);
-    app.MainWindowRef = ToRef(bar.get()), RefreshWindowList(app);
+    app.MainWindowRef = ToRef(bar.get());
+    RefreshWindowList(app);
     std::vector<std::wstring> ours; // the listed windows of this thread, in list order
     for (const WindowListEntry &entry : app.windowList)
         if (GetWindowThreadProcessId(ToHwnd(entry.handle), nullptr) == GetCurrentThreadId())

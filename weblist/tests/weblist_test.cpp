@@ -32,8 +32,10 @@ std::vector<WebRow> Rows(const std::wstring &names) {
         if (name == L"SEP")
             name = kSep;
         WebRow row{L"K_" + std::to_wstring(rows.size() + 1), name, name == kSep ? L"" : name};
-        if (name.ends_with(L'+'))
-            row.name = row.address = name.substr(0, name.size() - 1), row.checked = true;
+        if (name.ends_with(L'+')) {
+            row.name = row.address = name.substr(0, name.size() - 1);
+            row.checked = true;
+        }
         rows.push_back(row);
     }
     return rows;
@@ -79,7 +81,9 @@ TEST(WebListFile, ReadsAndWritesTheDesignedCases) {
 class WebListTest : public ::testing::Test {
 protected:
     WebListTest() {
-        s.WebBrowser1 = L"C:\\B1.exe", s.WebBrowser2 = L"C:\\Program Files\\Web\\b.exe", s.WebBrowserChoice = 2;
+        s.WebBrowser1 = L"C:\\B1.exe";
+        s.WebBrowser2 = L"C:\\Program Files\\Web\\b.exe";
+        s.WebBrowserChoice = 2;
     }
     FakeSystem sys;
     App app{sys};
@@ -103,7 +107,8 @@ TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuild
     };
     const auto open = [](bool singleRow) {
         return [singleRow](WebList &l) {
-            l.singleRow = singleRow, l.openWebsites();
+            l.singleRow = singleRow;
+            l.openWebsites();
             return l.singleRow;
         };
     };
@@ -116,14 +121,18 @@ TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuild
         return l.addToGroup() && l.groupShown;
     };
     const Op inGroupPanel = [](WebList &l) {
-        l.groupShown = true, l.groups = {L"g", L"h"}, l.currentGroup = 1;
+        l.groupShown = true;
+        l.groups = {L"g", L"h"};
+        l.currentGroup = 1;
         const bool added = l.addItem() || l.duplicate() || l.insertSeparator();
-        l.startEdit(), l.accept(L"", L"H");
+        l.startEdit();
+        l.accept(L"", L"H");
         return !added && l.moveUp() && !l.moveUp();
     };
     const Op emptyFields = [](WebList &l) {
         const bool separator = l.startEdit().has_value();
-        l.current = 1, l.startEdit();
+        l.current = 1;
+        l.startEdit();
         const bool refused = !l.enter(L"", L"u") && !l.enter(L"n", L"");
         l.accept(L"", L"");
         return !separator && refused;
@@ -133,11 +142,14 @@ TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuild
         return l.confirmClose() && !l.confirmClose();
     };
     const Op openTwice = [&](WebList &l) {
-        open(false)(l), l.current = 1;
+        open(false)(l);
+        l.current = 1;
         return open(false)(l);
     };
     const Op openGroup = [&](WebList &l) {
-        l.groups = {L"g h"}, l.currentGroup = 0, l.groupShown = true;
+        l.groups = {L"g h"};
+        l.currentGroup = 0;
+        l.groupShown = true;
         return open(false)(l);
     };
     const std::wstring start = L"start C:\\Program Files\\Web\\b.exe ";
@@ -168,10 +180,12 @@ TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuild
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
-        sys = FakeSystem(), list.changed = list.groupShown = false;
+        sys = FakeSystem();
+        list.changed = list.groupShown = false;
         for (const wchar_t answer : std::wstring_view(c.answers))
             sys.answers.push_back(answerOf.at(answer));
-        list.groups.clear(), list.rows = Rows(c.rows);
+        list.groups.clear();
+        list.rows = Rows(c.rows);
         list.rows[static_cast<std::size_t>(list.current = c.current)].selected = true;
         EXPECT_EQ(c.operation(list), c.changes);
         std::wstring after = Show(list.rows) + L"/", said;
