@@ -60,14 +60,34 @@ struct Reading {
 // The program's objects and memory, read from here or from inside it.
 class Meter {
 public:
-    Meter(const OrvaneProcess &orvane, HWND bar)
-        : orvane_(orvane), counter_(bar, L"handle_count.dll", "CountHandlesHook", kCountChannel) {
+    Meter(const OrvaneProcess &orvane, HWND bar) : orvane_(orvane), bar_(bar) {
+        const std::wstring dll = testsupport::ExeFolder() + L"\\handle_count.dll";
+        library_ = LoadLibraryW(dll.c_str());
+        const auto hook =
+            reinterpret_cast<HOOKPROC>(reinterpret_cast<void *>(GetProcAddress(library_, "CountHandlesHook")));
+        map_ = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(HandleCounts), kCountsName);
+        done_ = CreateEventW(nullptr, FALSE, FALSE, kCountedName);
+        view_ = map_ ? MapViewOfFile(map_, FILE_MAP_READ, 0, 0, 0) : nullptr;
+        if (hook)
+            hook_ = SetWindowsHookExW(WH_GETMESSAGE, hook, library_, GetWindowThreadProcessId(bar, nullptr));
         SetLastError(0);
         system_ = GetGuiResources(orvane.handle(), GR_GDIOBJECTS) != 0;
         if (!system_)
             std::printf("GetGuiResources answers 0 (error %lu): objects counted inside orvane.exe instead\n",
                         GetLastError());
     }
+    ~Meter() {
+        if (hook_)
+            UnhookWindowsHookEx(hook_);
+        if (view_)
+            UnmapViewOfFile(view_);
+        if (done_)
+            CloseHandle(done_);
+        if (map_)
+            CloseHandle(map_);
+    }
+    Meter(const Meter &) = delete;
+    Meter &operator=(const Meter &) = delete;
 
     std::optional<Reading> read() const {
         Reading r;
@@ -75,10 +95,13 @@ public:
             r.gdi = static_cast<long>(GetGuiResources(orvane_.handle(), GR_GDIOBJECTS));
             r.user = static_cast<long>(GetGuiResources(orvane_.handle(), GR_USEROBJECTS));
         } else {
-            const auto *answer = static_cast<const HandleCounts *>(counter_.ask(10000));
-            if (!answer)
+            if (!hook_ || !view_)
                 return std::nullopt;
-            const HandleCounts counts = *answer;
+            ResetEvent(done_);
+            PostMessageW(bar_, RegisterWindowMessageW(kCountMessage), 0, 0);
+            if (WaitForSingleObject(done_, 10000) != WAIT_OBJECT_0)
+                return std::nullopt;
+            const HandleCounts counts = *static_cast<const HandleCounts *>(view_);
             r.gdi = counts.gdi;
             r.user = windows() + counts.menus + std::max(0L, counts.icons) + counts.accelerators;
         }
@@ -110,8 +133,7 @@ private:
                 EnumChildWindows(
                     window,
                     [](HWND, LPARAM inner) {
-                        ++*reinterpret_cast<long *>(inner);
-                        return TRUE;
+                        return ++*reinterpret_cast<long *>(inner), TRUE;
                     },
                     reinterpret_cast<LPARAM>(&t.count));
                 return TRUE;
@@ -121,7 +143,11 @@ private:
     }
 
     const OrvaneProcess &orvane_;
-    testsupport::HookChannel counter_;
+    HWND bar_;
+    HMODULE library_ = nullptr;
+    HANDLE map_ = nullptr, done_ = nullptr;
+    void *view_ = nullptr;
+    HHOOK hook_ = nullptr;
     bool system_ = false;
 };
 
@@ -205,10 +231,8 @@ int wmain(int argc, wchar_t **argv) {
             if (!Cycle(chosen[i], orvane, bar, cycle))
                 return 2;
             const auto now = meter.read();
-            if (!now) {
-                std::printf("error: no reading in cycle %d\n", cycle);
-                return 2;
-            }
+            if (!now)
+                return std::printf("error: no reading in cycle %d\n", cycle), 2;
             growth[i].gdi += now->gdi - last.gdi;
             growth[i].user += now->user - last.user;
             growth[i].privateMiB += now->privateMiB - last.privateMiB;
@@ -231,10 +255,8 @@ int wmain(int argc, wchar_t **argv) {
                     growth[i].gdi, growth[i].user, growth[i].privateMiB);
 
     orvane.close();
-    if (orvane.waitForExit() != 0u) {
-        std::printf("error: orvane.exe did not end cleanly\n");
-        return 2;
-    }
+    if (orvane.waitForExit() != 0u)
+        return std::printf("error: orvane.exe did not end cleanly\n"), 2;
     if (!check)
         return 0;
     const bool held = last.gdi - first->gdi <= kGdiLimit && last.user - first->user <= kUserLimit &&
