@@ -133,7 +133,8 @@ private:
                 EnumChildWindows(
                     window,
                     [](HWND, LPARAM inner) {
-                        return ++*reinterpret_cast<long *>(inner), TRUE;
+                        ++*reinterpret_cast<long *>(inner);
+                        return TRUE;
                     },
                     reinterpret_cast<LPARAM>(&t.count));
                 return TRUE;
@@ -231,8 +232,10 @@ int wmain(int argc, wchar_t **argv) {
             if (!Cycle(chosen[i], orvane, bar, cycle))
                 return 2;
             const auto now = meter.read();
-            if (!now)
-                return std::printf("error: no reading in cycle %d\n", cycle), 2;
+            if (!now) {
+                std::printf("error: no reading in cycle %d\n", cycle);
+                return 2;
+            }
             growth[i].gdi += now->gdi - last.gdi;
             growth[i].user += now->user - last.user;
             growth[i].privateMiB += now->privateMiB - last.privateMiB;
@@ -255,8 +258,10 @@ int wmain(int argc, wchar_t **argv) {
                     growth[i].gdi, growth[i].user, growth[i].privateMiB);
 
     orvane.close();
-    if (orvane.waitForExit() != 0u)
-        return std::printf("error: orvane.exe did not end cleanly\n"), 2;
+    if (orvane.waitForExit() != 0u) {
+        std::printf("error: orvane.exe did not end cleanly\n");
+        return 2;
+    }
     if (!check)
         return 0;
     const bool held = last.gdi - first->gdi <= kGdiLimit && last.user - first->user <= kUserLimit &&

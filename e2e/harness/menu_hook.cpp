@@ -12,8 +12,10 @@ void Walk(HMENU menu, int depth, std::wstring &out) {
     for (int i = 0, count = GetMenuItemCount(menu); i < count; ++i) {
         wchar_t text[512] = {};
         MENUITEMINFOW item{};
-        item.cbSize = sizeof item, item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
-        item.dwTypeData = text, item.cch = 511;
+        item.cbSize = sizeof item;
+        item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
+        item.dwTypeData = text;
+        item.cch = 511;
         if (!GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &item))
             continue;
         out += std::to_wstring(depth) + L"\t" + std::to_wstring(item.hSubMenu ? 0u : item.wID) + L"\t" +
@@ -33,12 +35,16 @@ extern "C" __declspec(dllexport) LRESULT CALLBACK ReadMenuHook(int code, WPARAM 
         Walk(GetMenu(message->hwnd), 0, dump);
         dump.resize(std::min(dump.size(), orvane::e2e::kMenuDumpChars - 1));
         HANDLE map = OpenFileMappingW(FILE_MAP_WRITE, FALSE, orvane::e2e::kMenuDumpName);
-        if (auto *view = map ? static_cast<wchar_t *>(MapViewOfFile(map, FILE_MAP_WRITE, 0, 0, 0)) : nullptr)
-            std::copy(dump.c_str(), dump.c_str() + dump.size() + 1, view), UnmapViewOfFile(view);
+        if (auto *view = map ? static_cast<wchar_t *>(MapViewOfFile(map, FILE_MAP_WRITE, 0, 0, 0)) : nullptr) {
+            std::copy(dump.c_str(), dump.c_str() + dump.size() + 1, view);
+            UnmapViewOfFile(view);
+        }
         if (map)
             CloseHandle(map);
-        if (HANDLE done = OpenEventW(EVENT_MODIFY_STATE, FALSE, orvane::e2e::kMenuDoneName))
-            SetEvent(done), CloseHandle(done);
+        if (HANDLE done = OpenEventW(EVENT_MODIFY_STATE, FALSE, orvane::e2e::kMenuDoneName)) {
+            SetEvent(done);
+            CloseHandle(done);
+        }
         message->message = WM_NULL;
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);

@@ -126,7 +126,10 @@ std::vector<MenuItem> ReadMenu(HWND window) {
         if (WaitForSingleObject(done, 5000) == WAIT_OBJECT_0)
             dump = view;
     }
-    UnhookWindowsHookEx(installed), UnmapViewOfFile(view), CloseHandle(done), CloseHandle(map);
+    UnhookWindowsHookEx(installed);
+    UnmapViewOfFile(view);
+    CloseHandle(done);
+    CloseHandle(map);
     std::vector<MenuItem> items;
     std::wistringstream lines(dump);
     for (MenuItem item; lines >> item.depth >> item.id >> item.type && lines.get() && std::getline(lines, item.text);)
