@@ -5,7 +5,6 @@
 #include "dispatch.h"
 #include "menu.h"
 #include "program_test.h"
-#include "win_support.h"
 
 namespace orvane::e2e {
 namespace {

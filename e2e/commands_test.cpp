@@ -9,7 +9,6 @@
 #include "menu.h"
 #include "program_test.h"
 #include "resource.h"
-#include "win_support.h"
 
 namespace orvane::e2e {
 namespace {
@@ -18,11 +17,12 @@ using namespace testsupport;
 
 class Commands : public ProgramTest {
 protected:
-    // The bar on these settings, in a program folder with a folder "My Office" and the probe under the given names.
-    HWND start(const std::map<int, std::string> &settings, std::initializer_list<const wchar_t *> probes = {}) {
+    // The bar on these settings, skins chosen from its folder, which holds a folder "My Office" and the named probes.
+    HWND start(std::map<int, std::string> settings, std::initializer_list<const wchar_t *> probes = {}) {
         CreateDirectoryW(file(L"My Office").c_str(), nullptr);
         for (const wchar_t *name : probes)
             CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder.path(), name);
+        settings.emplace(20, Utf8(folder.path()));
         return ProgramTest::start(settings);
     }
     static RECT Rect(HWND window) {
@@ -144,7 +144,7 @@ TEST_F(Commands, LayoutCommandsReshapeTheBarInTwipsAndWithinTheWorkArea) {
     EXPECT_NEAR(std::stoi(settings.at(38)), MulDiv(work.right - work.left, 1440, dpi), 15) << "the width followed";
 }
 
-TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
+TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefaultUntilADarkOneIsChosenAndKept) {
     HWND bar = start({{13, "480"}, {18, path(L"WINWORD.EXE")}, {19, path(L"Skin_Gone.bmp")}, {38, "1"}, {39, "19200"}},
                      {L"WINWORD.EXE"});
     ASSERT_NE(bar, nullptr);
@@ -156,12 +156,7 @@ TEST_F(Commands, AClickOnAnIconRunsItsCommandAndABadSkinGivesWayToTheDefault) {
     const double left = LayStrip(MulDiv(window.right - window.left, 1440, dpi), 0).iconLeft[10];
     ClickAt({window.left + static_cast<int>(left * dpi / 1440) + MulDiv(240, dpi, 1440), (band.top + band.bottom) / 2});
     EXPECT_EQ(ReadProbeLog(file(L"probe.log"), 1).at(0).commandLine, path(L"WINWORD.EXE"));
-    EXPECT_EQ(closeAndReadSettings().at(18), path(L"Skin_Alba.bmp"));
-}
 
-TEST_F(Commands, ADarkSkinChosenInTheChooserColoursTheMenuBarAndIsKept) {
-    HWND bar = start({{20, Utf8(folder.path())}});
-    ASSERT_NE(bar, nullptr);
     // The first item of the menu bar, just above the client area, left of its caption.
     POINT item{GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYMENU) / 2};
     ClientToScreen(bar, &item);
@@ -173,6 +168,7 @@ TEST_F(Commands, ADarkSkinChosenInTheChooserColoursTheMenuBarAndIsKept) {
     HWND chooser = FromMenu(*orvane, bar, L"Change &skin", L"Change skin");
     ASSERT_NE(chooser, nullptr);
     EXPECT_EQ(ControlText(chooser, IDC_SKIN_FOLDER), folder.path());
+    EXPECT_EQ(SendMessageW(GetDlgItem(chooser, IDC_SKIN_FILES), LB_GETCURSEL, 0, 0), 0) << "Skin_Alba.bmp in use";
     for (WORD key : {VK_END, VK_RETURN})
         PressKeys(chooser, {key}); // Skin_Slate.bmp, last of the four
     EXPECT_TRUE(Becomes(false, light)) << "the menu bar takes the dark skin's colours";

@@ -13,7 +13,7 @@
 #include "win_support.h"
 
 using namespace orvane;
-using testsupport::FindProcessWindow, testsupport::WaitFor;
+using testsupport::FindProcessWindow;
 constexpr std::chrono::seconds kLong(30);
 
 int wmain(int argc, wchar_t **argv) {
@@ -37,12 +37,8 @@ int wmain(int argc, wchar_t **argv) {
                      "usage: driver.exe wait-bar | open-menu | pick CAPTION | rect TITLE | leave TITLE | close-bar\n");
         return 2;
     }
-    HWND bar = nullptr;
-    WaitFor(
-        [&] {
-            return (bar = FindWindowW(e2e::kMainWindowClass, nullptr)) && IsWindowVisible(bar);
-        },
-        step == L"close-bar" ? std::chrono::seconds(0) : kLong);
+    HWND bar =
+        FindProcessWindow(0, e2e::kMainWindowClass, nullptr, step == L"close-bar" ? std::chrono::seconds(0) : kLong);
     if (!bar)
         return 1;
     if (step == L"open-menu")

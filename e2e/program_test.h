@@ -1,4 +1,4 @@
-// What the end-to-end tests share: a program folder named after the test, and orvane.exe started there.
+// What the end-to-end tests share: the harness, a program folder named after the test, and orvane.exe started there.
 #pragma once
 
 #include <gtest/gtest.h>

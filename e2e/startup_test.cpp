@@ -1,17 +1,19 @@
 // What only a running orvane.exe shows of start-up, single instance and
 // shut-down: the message before the bar, the bar's place and size in twips at
-// any DPI, the earlier copy taking over, garbage, huge or locked settings.
+// any DPI, the earlier copy taking over, garbage, huge or locked settings; and
+// what the file carries: its manifest and icon (its version shows in the About box).
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <random>
 #include <tuple>
+#include <type_traits>
 
 #include "dpi.h"
 #include "program_test.h"
 #include "resource.h"
 #include "version.h"
-#include "win_support.h"
 
 namespace orvane::e2e {
 namespace {
@@ -141,33 +143,50 @@ TEST(StartUp, TheBarKeepsItsSizeInTwipsOnAHighDpiScreenAndItsWidthWithinTheWorkA
         BarFile(folder, r, {{1, "1500"}, {2, "3000"}, {11, "1020"}, {39, Twips(area.right - area.left, kDpi)}}, kDpi));
 }
 
-TEST(BadSettings, GarbageIsRewrittenCleanAndTenMegabytesWithAMegabyteLineAreReadUpToLine39) {
+TEST(BadSettings, GarbageIsRewrittenCleanTenMegabytesAreReadUpToLine39AndALockedFileIsNeitherReadNorOverwritten) {
     // The garbage's folder also has a name the code page lacks.
-    ProgramFolder garbage(L"garbage settings \u0141\u00f3d\u017a"), huge(L"huge settings");
+    ProgramFolder garbage(L"garbage settings \u0141\u00f3d\u017a"), huge(L"huge settings"), locked(L"locked settings");
     const std::string longLine(1 << 20, 'x');
     std::string content = SettingsText({{4, longLine}, {7, "11"}});
     while (content.size() < (10u << 20))
         content += Garbage(1 << 16) + "\r\n";
-    ASSERT_TRUE(WriteBytes(garbage.settingsFile(), Garbage(64 * 1024)) && WriteBytes(huge.settingsFile(), content));
+    const std::string kept = SettingsText({{1, "1500"}, {7, "11"}});
+    ASSERT_TRUE(WriteBytes(garbage.settingsFile(), Garbage(64 * 1024)) && WriteBytes(huge.settingsFile(), content) &&
+                WriteBytes(locked.settingsFile(), kept));
     auto closed = StartQuietlyAndClose(garbage);
     ASSERT_TRUE(closed);
     EXPECT_TRUE(SplitCrLf(closed->written).size() == 39u && closed->written.ends_with("\r\n"));
     ASSERT_TRUE(closed = StartQuietlyAndClose(huge));
     EXPECT_EQ(closed->written, BarFile(huge, closed->bar, {{4, longLine}, {7, "11"}}));
+
+    HANDLE lock =
+        CreateFileW(locked.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(lock, INVALID_HANDLE_VALUE);
+    closed = StartQuietlyAndClose(locked);
+    CloseHandle(lock);
+    ASSERT_TRUE(closed) << "no message on reading nor on writing the locked file";
+    EXPECT_EQ(closed->bar.top, 0) << "nothing was read";
+    EXPECT_EQ(ReadBytes(locked.settingsFile()), kept);
 }
 
-TEST(BadSettings, LockedFileIsNeitherReadNorOverwritten) {
-    ProgramFolder folder(L"locked settings");
-    const std::string content = SettingsText({{1, "1500"}, {7, "11"}});
-    ASSERT_TRUE(WriteBytes(folder.settingsFile(), content));
-    HANDLE lock =
-        CreateFileW(folder.settingsFile().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(lock, INVALID_HANDLE_VALUE);
-    const auto closed = StartQuietlyAndClose(folder);
-    CloseHandle(lock);
-    ASSERT_TRUE(closed) << "no message on reading nor on writing";
-    EXPECT_EQ(closed->bar.top, 0) << "nothing was read";
-    EXPECT_EQ(ReadBytes(folder.settingsFile()), content);
+TEST(Executable, ManifestAsksForModernControlsDpiAndLongPathsAndTheFileCarriesAnIcon) {
+    const std::unique_ptr<std::remove_pointer_t<HMODULE>, decltype(&FreeLibrary)> module(
+        LoadLibraryExW(EnvironmentPath(L"ORVANE_EXE").c_str(), nullptr,
+                       LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE),
+        FreeLibrary);
+    ASSERT_NE(module, nullptr);
+    const auto resource = [&](const wchar_t *type, int id) {
+        HRSRC found = FindResourceW(module.get(), MAKEINTRESOURCEW(id), type);
+        const auto *bytes =
+            found ? static_cast<const char *>(LockResource(LoadResource(module.get(), found))) : nullptr;
+        return bytes ? std::string(bytes, SizeofResource(module.get(), found)) : std::string();
+    };
+    const std::string manifest = resource(RT_MANIFEST, 1);
+    for (const char *expected :
+         {"Microsoft.Windows.Common-Controls", "version=\"6.0.0.0\"", "PerMonitorV2", "<longPathAware",
+          "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}", "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}", "asInvoker"})
+        EXPECT_NE(manifest.find(expected), std::string::npos) << expected;
+    EXPECT_FALSE(resource(RT_GROUP_ICON, 1).empty());
 }
 
 } // namespace

@@ -5,10 +5,8 @@
 #include "program_test.h"
 #include <psapi.h>
 #include "picture_size.h"
-#include "program_windows.h"
 #include "resource.h"
 #include "wallpaper.h"
-#include "win_support.h"
 
 namespace orvane::e2e {
 namespace {
@@ -117,11 +115,9 @@ TEST_F(Wallpaper, ALargeBitmapTurnedToItsNaturalSizeGetsScrollBarsThatTheKeysMov
     HWND window = open(L"Test_Large.bmp", "", "1"); // 2000 x 1500 in squares of 100, two colours
     ASSERT_NE(window, nullptr);
     const LONG bars = WS_HSCROLL | WS_VSCROLL;
-    EXPECT_TRUE(WaitFor(
-        [&] {
-            return (GetWindowLongW(window, GWL_STYLE) & bars) == bars;
-        },
-        5s));
+    EXPECT_TRUE(Becomes(bars, [&] {
+        return GetWindowLongW(window, GWL_STYLE) & bars;
+    }));
     const POINT at{Client(window).left + 50, Client(window).top + 50};
     const COLORREF first = RGB(0x20, 0x40, 0xc0), second = RGB(0xf0, 0xc0, 0x20);
     // 40 pixels a key: three take the next square down, then the next one right.

@@ -8,10 +8,8 @@
 
 #include "helpers.h"
 #include "program_test.h"
-#include "program_windows.h"
 #include "reports.h"
 #include "resource.h"
-#include "win_support.h"
 
 namespace orvane::e2e {
 namespace {

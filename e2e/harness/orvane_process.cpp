@@ -180,13 +180,7 @@ COLORREF ScreenColour(POINT point) {
 }
 
 HWND WaitForDialogTitled(DWORD processId, const std::wstring &title, std::chrono::milliseconds timeout) {
-    HWND dialog = nullptr;
-    WaitFor(
-        [&] {
-            return (dialog = FindProcessWindow(processId, kDialogClass, title.c_str())) != nullptr;
-        },
-        timeout);
-    return dialog;
+    return FindProcessWindow(processId, kDialogClass, title.c_str(), timeout);
 }
 
 std::wstring ControlText(HWND dialog, int id) {

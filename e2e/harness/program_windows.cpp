@@ -31,16 +31,14 @@ HWND ListEditor(const OrvaneProcess &orvane, HWND bar) {
     }
 
 // Esc in the window, then in each window it was opened from, down to the bar.
-bool EscapeToBar(const OrvaneProcess &, HWND window) {
+bool EscapeToBar(const OrvaneProcess &orvane, HWND window) {
     while (window) {
         HWND owner = GetWindow(window, GW_OWNER);
-        wchar_t type[64] = {};
-        GetClassNameW(owner, type, 64);
         if (!EscapeFrom(window)) {
             std::fprintf(stderr, "still open: %s\n", Utf8(TextOf(window)).c_str());
             return false;
         }
-        window = std::wstring(type) == kMainWindowClass ? nullptr : owner;
+        window = owner == orvane.waitForMainWindow(0ms) ? nullptr : owner;
     }
     return true;
 }
@@ -59,11 +57,7 @@ HWND FromMenu(const OrvaneProcess &orvane, HWND window, const wchar_t *caption, 
 
 HWND FromPopupMenu(const OrvaneProcess &orvane, HWND window, WORD letter, const std::wstring &title) {
     PressKeys(window, {VK_SHIFT, VK_F10});
-    if (!WaitFor(
-            [&] {
-                return FindProcessWindow(orvane.id(), kPopupMenuClass) != nullptr;
-            },
-            5s))
+    if (!FindProcessWindow(orvane.id(), kPopupMenuClass, nullptr, 5s))
         return nullptr;
     // The letter again while the menu stays open: one typed as it appears can miss it.
     for (int press = 0; press < 3 && FindProcessWindow(orvane.id(), kPopupMenuClass); ++press) {
