@@ -9,7 +9,6 @@
 #include "fake_system.h"
 #include "helpers.h"
 #include "launch.h"
-#include "lifecycle.h"
 #include "locations.h"
 #include "office.h"
 #include "paths.h"
@@ -38,77 +37,6 @@ std::string File(bool distinct, const std::map<int, std::string> &changed = {}) 
     return text;
 }
 
-// A window that takes sizes in whole pixels of 15 twips, as at 96 DPI, and records what it is told.
-class FakeHost : public MainWindowHost {
-    using S = const std::wstring &;
-    void set(std::int32_t &e, std::wstring name, int v) {
-        calls.push_back(name + std::to_wstring(v));
-        e = v / 15 * 15;
-    }
-
-public:
-    bool earlierInstance = false;
-    std::wstring title = L"Orvane";
-    TwipsRect rect, area{0, 0, 19200, 11520};
-    Lines calls;
-
-    bool earlierInstanceRunning() override {
-        return earlierInstance;
-    }
-    std::wstring programTitle() override {
-        return title;
-    }
-    void setProgramTitle(S t) override {
-        calls.push_back(L"title " + (title = t));
-    }
-    WindowRef findApplicationWindow(S t) override {
-        calls.push_back(L"find " + t);
-        return 0;
-    } // the copy runs on
-    void endProcessNow() override {
-        calls.push_back(L"end");
-    }
-    void initCommonControls() override {
-        calls.push_back(L"initCommonControls");
-    }
-    WindowRef handle() override {
-        return 500;
-    }
-    void setTop(std::int32_t v) override {
-        set(rect.top, L"top ", v);
-    }
-    void setLeft(std::int32_t v) override {
-        set(rect.left, L"left ", v);
-    }
-    void setWidth(std::int32_t v) override {
-        set(rect.width, L"width ", v);
-    }
-    void setHeight(std::int32_t v) override {
-        set(rect.height, L"height ", v);
-    }
-    TwipsRect geometry() override {
-        return rect;
-    }
-    TwipsRect workArea() override {
-        return area;
-    }
-    std::int32_t backColor() override {
-        return 0xF0F0F0;
-    }
-    void layIconStrip() override {
-        calls.push_back(L"iconStrip");
-    }
-    void applySkin(S skin) override {
-        calls.push_back(L"skin " + skin);
-    }
-    void buildMenuBar() override {
-        calls.push_back(L"menuBar");
-    }
-    void takeOpeningSize() override {
-        calls.push_back(L"openingSize");
-    }
-};
-
 class Core : public ::testing::Test {
 protected:
     Core() {
@@ -128,19 +56,9 @@ protected:
         LaunchSuiteProgram(app, program, document = doc);
         return program;
     }
-    // A fresh start on a settings file with these lines, the others initial; no file when none are given.
-    LoadOutcome start(const std::map<int, std::string> &lines = {}) {
-        if (!lines.empty())
-            sys.addFile(kIni, File(false, lines));
-        app.settings = {};
-        host.calls.clear();
-        return LoadMainWindow(app, host, state);
-    }
     testing::FakeSystem sys;
     App app{sys};
     std::wstring document;
-    FakeHost host;
-    MainWindowState state;
 };
 
 // A locked file (neither read nor overwritten): the e2e BadSettings test.
@@ -335,25 +253,6 @@ TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNa
         requests.emplace_back(r.owner, r.verb, r.file, r.parameters, r.directory, r.showCode);
     EXPECT_EQ(requests, (std::vector<Request>{{77, L"Open", L"C:\\Tools\\a.exe", L"-x", L"C:\\Tools", 1},
                                               {0, L"runas", L"a.exe", L"", L"", 3}}));
-}
-
-// Start-up: what only the fake window shows; the e2e StartUp tests cover the first start, a second copy and unloading.
-
-TEST_F(Core, StartUpCallsTheWindowInOrderAndPlacesItAtTopOnlyWhereItsTopMeetsTheWorkArea) {
-    host.earlierInstance = true; // a copy without a window is reported and runs on
-    EXPECT_EQ(start(), LoadOutcome::Running);
-    EXPECT_EQ(host.calls, (Lines{L"title Redundant instance", L"find Orvane", L"title Orvane", L"initCommonControls",
-                                 L"top 0", L"left 0", L"width 0", L"height 0", L"iconStrip",
-                                 L"skin C:\\Orvane\\Skin_Alba.bmp", L"menuBar", L"openingSize"}));
-    host.earlierInstance = false;
-    for (const auto &[areaTop, atTop] : {std::pair{0, false}, {300, true}, {315, false}}) {
-        host.area.top = areaTop;
-        start({{1, "301"}});
-        EXPECT_EQ(std::pair(app.settings.MainTop, state.atTop), std::pair(300, atTop)) << areaTop;
-    }
-    // A skin ending in ".bmp" in any case is used; the other edges, the widths and the fall-backs: e2e tests.
-    sys.addFile(L"D:\\Skin_Blue.BMP");
-    EXPECT_EQ(StartupSkin(sys, L"D:\\Skin_Blue.BMP", L"P"), L"D:\\Skin_Blue.BMP");
 }
 
 // The helpers the above are built on; the registry and the system's folders: the Win32 RealSystem test.
