@@ -3,9 +3,9 @@
 # SHA256SUMS, each holds a program for its processor, and the bar starts for
 # the first time from a fresh folder where the 64-bit zip was unpacked.
 # Arguments: the release folder (scripts/package writes it), e2e_tests.exe, a
-# scratch folder.
+# scratch folder, the version (from ui/version.h, as the build read it).
 set -euo pipefail
-release=$1 e2e_tests=$2 folder=$3
+release=$1 e2e_tests=$2 folder=$3 version=$4
 root=$(cd "$(dirname "$0")/.." && pwd)
 fail() { echo "release: $*" >&2; exit 1; }
 
@@ -17,7 +17,6 @@ machine() {
   od -An -tx2 -j$((header + 4)) -N2 "$1" | tr -d ' '
 }
 
-version=$(sed -n 's/^#define ORVANE_VERSION_[A-Z]* \([0-9]*\)$/\1/p' "$root/ui/version.h" | paste -sd.)
 cd "$release" 2>/dev/null || fail "no $release: run scripts/package first"
 expected="HandOpen.ico README.txt Skin_Alba.bmp Skin_Dune.bmp Skin_Sage.bmp Skin_Slate.bmp orvane.exe"
 scratch=$(mktemp -d)

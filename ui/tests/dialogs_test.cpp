@@ -17,14 +17,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace testsupport;
-
-bool Gone(HWND window, std::chrono::milliseconds timeout) {
-    return WaitFor(
-        [&] {
-            return !IsWindow(window);
-        },
-        timeout);
-}
+using e2e::Gone;
 
 TEST(ClockWindow, ShowsDateAndTimeAndAnyKeyOrClickClosesIt) {
     // Keys the dialog manager would keep for itself, and clicks (0: the window below its frames).
