@@ -16,10 +16,14 @@ inline constexpr wchar_t kSettingsFileName[] = L"\\Orvane.ini";
 
 class App {
 public:
-    explicit App(System &system) : sys(system) {
+    explicit App(System &system) : files(system), shell(system), desktop(system), prompts(system), locale(system) {
     }
 
-    System &sys;
+    Files &files;
+    Shell &shell;
+    Desktop &desktop;
+    Prompts &prompts;
+    Locale &locale;
     Settings settings;
 
     // Filled by start-up.

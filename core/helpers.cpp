@@ -5,20 +5,20 @@
 
 namespace orvane {
 
-WholeFile ReadWholeFile(System &sys, const std::wstring &path) {
-    if (const auto facts = sys.fileFacts(path); facts && facts->size > kMostFileBytes)
+WholeFile ReadWholeFile(Files &files, const std::wstring &path) {
+    if (const auto facts = files.fileFacts(path); facts && facts->size > kMostFileBytes)
         return {std::nullopt, facts->size};
     // One byte more than the most tells a file that grew after its size was asked.
-    auto bytes = sys.readFile(path, kMostFileBytes + 1);
+    auto bytes = files.readFile(path, kMostFileBytes + 1);
     if (!bytes || bytes->size() <= kMostFileBytes)
         return {std::move(bytes)};
-    const auto facts = sys.fileFacts(path);
+    const auto facts = files.fileFacts(path);
     return {std::nullopt, facts ? facts->size : bytes->size()};
 }
 
-void DeleteFileIfPresent(App &app, const std::wstring &path) {
-    if (!path.empty() && app.sys.fileExists(path))
-        app.sys.deleteFile(path);
+void DeleteFileIfPresent(Files &files, const std::wstring &path) {
+    if (!path.empty() && files.fileExists(path))
+        files.deleteFile(path);
 }
 
 void EnsureTrailingBackslash(std::wstring &path) {
@@ -67,7 +67,7 @@ std::wstring OsVersionName(int major, int minor) {
 }
 
 void DetectOsVersion(App &app) {
-    const OsVersion version = app.sys.osVersion();
+    const OsVersion version = app.shell.osVersion();
     app.OsVersionCode = static_cast<std::int16_t>(version.major);
     app.OsMinorVersion = static_cast<std::int16_t>(version.minor);
     if (auto name = OsVersionName(version.major, version.minor); !name.empty())
@@ -76,14 +76,14 @@ void DetectOsVersion(App &app) {
 
 void FindSystemFolders(App &app) {
     constexpr int kPersonalFolder = 5;
-    app.ProgramFilesFolder = app.sys
+    app.ProgramFilesFolder = app.shell
                                  .registryString(RegistryRoot::LocalMachine,
                                                  L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion", L"ProgramFilesDir")
                                  .value_or(L"");
-    if (app.ProgramFilesFolder.empty() && app.sys.pathExists(L"C:\\"))
+    if (app.ProgramFilesFolder.empty() && app.files.pathExists(L"C:\\"))
         app.ProgramFilesFolder = L"C:\\";
     EnsureTrailingBackslash(app.ProgramFilesFolder);
-    app.DocumentsFolder = CutAtNul(app.sys.specialFolder(kPersonalFolder));
+    app.DocumentsFolder = CutAtNul(app.shell.specialFolder(kPersonalFolder));
     EnsureTrailingBackslash(app.DocumentsFolder);
 }
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "system.h"
+#include "files.h"
 
 namespace orvane {
 
@@ -14,16 +14,16 @@ class App;
 // The file dialogs change the current folder; this puts it back when it goes.
 class FolderKeeper {
 public:
-    explicit FolderKeeper(System &sys) : sys_(sys), folder_(sys.currentFolder()) {
+    explicit FolderKeeper(Files &files) : files_(files), folder_(files.currentFolder()) {
     }
     FolderKeeper(const FolderKeeper &) = delete;
     FolderKeeper &operator=(const FolderKeeper &) = delete;
     ~FolderKeeper() {
-        sys_.setCurrentFolder(folder_);
+        files_.setCurrentFolder(folder_);
     }
 
 private:
-    System &sys_;
+    Files &files_;
     std::wstring folder_;
 };
 
@@ -36,10 +36,10 @@ struct WholeFile {
     std::uint64_t tooLarge = 0;       // the size of a file larger than kMostFileBytes
 };
 // A file over kMostFileBytes is refused without being read.
-WholeFile ReadWholeFile(System &sys, const std::wstring &path);
+WholeFile ReadWholeFile(Files &files, const std::wstring &path);
 
 // Deletes the file when the path is not empty and the file exists; errors ignored.
-void DeleteFileIfPresent(App &app, const std::wstring &path);
+void DeleteFileIfPresent(Files &files, const std::wstring &path);
 
 // Adds a backslash unless the path, trimmed of blanks, ends in "\" or "/".
 // Trailing blanks go, leading blanks stay; an empty path becomes "\".

@@ -23,31 +23,31 @@ void KeepLaunchResult(App &app, long long code) {
 }
 
 void StartCommandLine(App &app, const std::wstring &commandLine) {
-    if (auto task = app.sys.startCommandLine(commandLine, kShowNormal))
+    if (auto task = app.shell.startCommandLine(commandLine, kShowNormal))
         KeepLaunchResult(app, *task);
 }
 
-std::optional<std::wstring> ScanDriveFolders(App &app, const std::wstring &path) {
+std::optional<std::wstring> ScanDriveFolders(Files &files, const std::wstring &path) {
     for (int code = kFirstScannedDrive; code <= kLastScannedDrive; ++code) {
         std::wstring candidate = AsDriveFolderPath(static_cast<wchar_t>(code), path);
-        if (app.sys.fileExists(candidate))
+        if (files.fileExists(candidate))
             return candidate;
     }
     return std::nullopt;
 }
 
 std::optional<std::wstring> LocateSuiteProgram(App &app, const std::wstring &program) {
-    if (app.sys.fileExists(program))
+    if (app.files.fileExists(program))
         return program;
-    if (std::wstring inSuite = kSuiteFallbackFolder + BackslashFileName(program); app.sys.fileExists(inSuite))
+    if (std::wstring inSuite = kSuiteFallbackFolder + BackslashFileName(program); app.files.fileExists(inSuite))
         return inSuite;
-    if (auto found = ScanDriveFolders(app, program))
+    if (auto found = ScanDriveFolders(app.files, program))
         return found;
     if (!app.ProgramFolder.empty()) {
-        if (std::wstring ownDrive = AsDriveFolderPath(app.ProgramFolder[0], program); app.sys.fileExists(ownDrive))
+        if (std::wstring ownDrive = AsDriveFolderPath(app.ProgramFolder[0], program); app.files.fileExists(ownDrive))
             return ownDrive;
     }
-    if (std::wstring beside = app.ProgramFolder + BackslashFileName(program); app.sys.fileExists(beside))
+    if (std::wstring beside = app.ProgramFolder + BackslashFileName(program); app.files.fileExists(beside))
         return beside;
     return std::nullopt;
 }
@@ -62,7 +62,7 @@ std::wstring ProgramBaseName(const std::wstring &program) {
 
 } // namespace
 
-bool ExecuteProcess(App &app, const std::wstring &file, WindowRef owner, int style, const std::wstring &parameters,
+bool ExecuteProcess(Shell &shell, const std::wstring &file, WindowRef owner, int style, const std::wstring &parameters,
                     bool elevate) {
     // A request that names no file has nothing to start; the shell would open a folder instead.
     if (TrimBlanks(file).empty())
@@ -74,7 +74,7 @@ bool ExecuteProcess(App &app, const std::wstring &file, WindowRef owner, int sty
     request.parameters = parameters;
     request.directory = ParentFolder(file);
     request.showCode = style;
-    return app.sys.shellExecute(request);
+    return shell.shellExecute(request);
 }
 
 void LaunchSuiteProgram(App &app, std::wstring &program, std::wstring &document) {
@@ -90,21 +90,21 @@ void LaunchSuiteProgram(App &app, std::wstring &program, std::wstring &document)
 
     RefreshWindowList(app);
     if (const WindowRef running = FindListedWindow(app.windowList, ProgramBaseName(program)); running != 0) {
-        app.sys.showMessage(L"Program running already", kProgramTitle, MessageIcon::None, MessageButtons::Ok);
-        KeepLaunchResult(app, app.sys.bringToForeground(running) ? 1 : 0);
+        app.prompts.showMessage(L"Program running already", kProgramTitle, MessageIcon::None, MessageButtons::Ok);
+        KeepLaunchResult(app, app.desktop.bringToForeground(running) ? 1 : 0);
         return;
     }
 
     if (document.size() >= 2 && !Contains(document, L"\\")) {
-        const std::wstring folder = app.sys.currentFolder();
+        const std::wstring folder = app.files.currentFolder();
         document = folder + (folder.size() == 3 ? L"" : L"\\") + document;
     }
     if (TrimBlanks(document).empty()) {
         StartCommandLine(app, program);
         return;
     }
-    if (!app.sys.fileExists(document) && Contains(document, L":") && !Contains(document, L"\\Drive_")) {
-        if (auto found = ScanDriveFolders(app, document))
+    if (!app.files.fileExists(document) && Contains(document, L":") && !Contains(document, L"\\Drive_")) {
+        if (auto found = ScanDriveFolders(app.files, document))
             document = *found;
     }
     if (Contains(document, L" "))
@@ -122,22 +122,22 @@ std::wstring CommandWithArgument(const std::wstring &program, const std::wstring
 
 void LoadCustomBrowser(App &app, const std::wstring &target) {
     app.LaunchPath = app.settings.CustomBrowser;
-    if (!app.sys.fileExists(app.LaunchPath)) {
+    if (!app.files.fileExists(app.LaunchPath)) {
         ReportFileNotFound(app, app.LaunchPath, L"Custom Browser");
         return;
     }
-    app.sys.processPendingEvents();
+    app.desktop.processPendingEvents();
     StartCommandLine(app, CommandWithArgument(app.LaunchPath, target));
 }
 
 void LaunchWithArgument(App &app, const std::wstring &program, const std::wstring &argument) {
-    app.sys.processPendingEvents();
+    app.desktop.processPendingEvents();
     StartCommandLine(app, CommandWithArgument(program, argument));
 }
 
 void ExploreFolder(App &app, WindowRef owner) {
-    const std::wstring folder = app.sys.currentFolder();
-    KeepLaunchResult(app, app.sys.shellVerb(owner, L"explore", folder, folder, kShowNormal));
+    const std::wstring folder = app.files.currentFolder();
+    KeepLaunchResult(app, app.shell.shellVerb(owner, L"explore", folder, folder, kShowNormal));
 }
 
 } // namespace orvane

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "system.h"
+#include "shell.h"
 
 namespace orvane {
 
@@ -14,7 +14,7 @@ inline constexpr int kShowNormal = 1;
 
 // The shell's execute request with the verb "Open" (or "runas"), the file's
 // own folder as working folder. True when the shell accepted the request.
-bool ExecuteProcess(App &app, const std::wstring &file, WindowRef owner, int style, const std::wstring &parameters,
+bool ExecuteProcess(Shell &shell, const std::wstring &file, WindowRef owner, int style, const std::wstring &parameters,
                     bool elevate);
 
 // Starts a suite tool, with a document when one is given. Finds the tool on

@@ -25,16 +25,16 @@ void PlaceFromSettings(App &app, MainWindowHost &host) {
 
 } // namespace
 
-void HandOverToEarlierInstance(App &app, MainWindowHost &host, WindowRef earlierWindow) {
+void HandOverToEarlierInstance(Desktop &desktop, MainWindowHost &host, WindowRef earlierWindow) {
     // Each round starts from the window the previous one reached; the earlier
     // copy keeps its main window just above its application window.
     WindowRef window = earlierWindow;
     for (int round = 0; round < kHandOverRounds; ++round) {
-        app.sys.processPendingEvents();
-        window = app.sys.windowAbove(window);
-        app.sys.restoreIfMinimised(window);
-        app.sys.bringToForeground(window);
-        app.sys.processPendingEvents();
+        desktop.processPendingEvents();
+        window = desktop.windowAbove(window);
+        desktop.restoreIfMinimised(window);
+        desktop.bringToForeground(window);
+        desktop.processPendingEvents();
     }
     host.endProcessNow();
 }
@@ -44,7 +44,7 @@ LoadOutcome LoadMainWindow(App &app, MainWindowHost &host, MainWindowState &stat
         const std::wstring title = host.programTitle();
         host.setProgramTitle(kRedundantInstanceTitle); // so the search cannot find this copy
         if (const WindowRef earlier = host.findApplicationWindow(title); earlier != 0) {
-            HandOverToEarlierInstance(app, host, earlier);
+            HandOverToEarlierInstance(app.desktop, host, earlier);
             return LoadOutcome::HandedOver;
         }
         host.setProgramTitle(title);
@@ -69,7 +69,7 @@ LoadOutcome LoadMainWindow(App &app, MainWindowHost &host, MainWindowState &stat
     host.layIconStrip();
     state.atTop = app.settings.MainTop == state.workArea.top;
 
-    app.settings.SkinFile = StartupSkin(app.sys, app.settings.SkinFile, app.ProgramFolder);
+    app.settings.SkinFile = StartupSkin(app.files, app.settings.SkinFile, app.ProgramFolder);
     host.applySkin(app.settings.SkinFile);
 
     host.buildMenuBar();

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "system.h"
+#include "desktop.h"
 
 namespace orvane {
 
@@ -76,7 +76,7 @@ enum class LoadOutcome {
 LoadOutcome LoadMainWindow(App &app, MainWindowHost &host, MainWindowState &state);
 
 // Brings the earlier copy's window forward, then ends this process.
-void HandOverToEarlierInstance(App &app, MainWindowHost &host, WindowRef earlierWindow);
+void HandOverToEarlierInstance(Desktop &desktop, MainWindowHost &host, WindowRef earlierWindow);
 
 // The unload sequence: records the window's geometry and colour and writes the settings.
 void UnloadMainWindow(App &app, MainWindowHost &host);

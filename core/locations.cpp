@@ -11,7 +11,7 @@ static_assert(InEnumOrder(kFileChoices, &FileChoice::which));
 bool ChooseIntoSetting(App &app, Choice which) {
     const FileChoice &choice = kFileChoices[static_cast<std::size_t>(which)];
     std::wstring &setting = app.settings.*choice.setting;
-    const auto chosen = app.sys.chooseFile({.title = choice.title, .filter = choice.filter, .preset = setting});
+    const auto chosen = app.prompts.chooseFile({.title = choice.title, .filter = choice.filter, .preset = setting});
     if (!chosen || chosen->empty())
         return false;
     setting = *chosen;
@@ -20,9 +20,9 @@ bool ChooseIntoSetting(App &app, Choice which) {
 
 bool SameForAll(App &app) {
     Settings &s = app.settings;
-    if (s.WordPath.empty() || !app.sys.fileExists(s.WordPath)) {
-        app.sys.showMessage(L"Location for MS Word invalid or empty.", kProgramTitle, MessageIcon::Exclamation,
-                            MessageButtons::Ok);
+    if (s.WordPath.empty() || !app.files.fileExists(s.WordPath)) {
+        app.prompts.showMessage(L"Location for MS Word invalid or empty.", kProgramTitle, MessageIcon::Exclamation,
+                                MessageButtons::Ok);
         return false;
     }
     const std::wstring folder = s.WordPath.substr(0, s.WordPath.rfind(L'\\') + 1);
@@ -35,9 +35,9 @@ bool SameForAll(App &app) {
 
 bool StartYourProgram(App &app) {
     const std::wstring &program = app.settings.YourProgram;
-    if (program.empty() || !app.sys.fileExists(program)) {
-        app.sys.showMessage(L"Cannot find this program:\r\n\r\n" + program, kProgramTitle, MessageIcon::Exclamation,
-                            MessageButtons::Ok);
+    if (program.empty() || !app.files.fileExists(program)) {
+        app.prompts.showMessage(L"Cannot find this program:\r\n\r\n" + program, kProgramTitle, MessageIcon::Exclamation,
+                                MessageButtons::Ok);
         return false;
     }
     LaunchWithArgument(app, program, L"");

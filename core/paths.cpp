@@ -14,29 +14,29 @@ std::wstring AsDriveFolderPath(wchar_t drive, const std::wstring &path) {
     return std::wstring(1, drive) + L":\\" + kDriveFolderPrefix + LeftOf(path, 1) + MidFrom(path, 3);
 }
 
-std::wstring ResolveDocumentPath(App &app, const std::wstring &path) {
+std::wstring ResolveDocumentPath(Files &files, const std::wstring &path) {
     if (TrimBlanks(path).empty())
         return {};
-    if (app.sys.fileExists(path))
+    if (files.fileExists(path))
         return path;
     const std::wstring candidate = Contains(path, kDriveFolderPrefix)
                                        ? MidFrom(path, 10).substr(0, 1) + L":" + MidFrom(path, 11)
-                                       : TryDriveLetters(app, L":\\Drive_" + LeftOf(path, 1) + MidFrom(path, 3));
-    return app.sys.fileExists(candidate) ? candidate : path;
+                                       : TryDriveLetters(files, L":\\Drive_" + LeftOf(path, 1) + MidFrom(path, 3));
+    return files.fileExists(candidate) ? candidate : path;
 }
 
-std::wstring TryDriveLetters(App &app, const std::wstring &rest) {
+std::wstring TryDriveLetters(Files &files, const std::wstring &rest) {
     std::wstring candidate;
     for (int code = 'C'; code <= 'Z'; ++code) {
         candidate = Letter(code) + rest;
-        if (app.sys.fileExists(candidate))
+        if (files.fileExists(candidate))
             break;
     }
     return candidate;
 }
 
-std::wstring RelocateDrivePath(App &app, const std::wstring &path) {
-    if (path.empty() || app.sys.fileExists(path))
+std::wstring RelocateDrivePath(Files &files, const std::wstring &path) {
+    if (path.empty() || files.fileExists(path))
         return path;
     if (!Contains(path, L":\\Drive_"))
         return AsDriveFolderPath(L'C', path);
@@ -46,18 +46,18 @@ std::wstring RelocateDrivePath(App &app, const std::wstring &path) {
 }
 
 std::wstring &ResolveSuitePath(App &app, std::wstring &path) {
-    if (!path.empty() && !app.sys.fileExists(path)) {
+    if (!path.empty() && !app.files.fileExists(path)) {
         const std::wstring besideProgram = app.ProgramFolder + BackslashFileName(path);
-        if (app.sys.fileExists(besideProgram))
+        if (app.files.fileExists(besideProgram))
             return path = besideProgram;
     }
-    path = RelocateDrivePath(app, path);
-    if (!path.empty() && !app.sys.fileExists(path)) {
+    path = RelocateDrivePath(app.files, path);
+    if (!path.empty() && !app.files.fileExists(path)) {
         const std::wstring inSuiteFolder = kSuiteFallbackFolder + BackslashFileName(path);
-        if (app.sys.fileExists(inSuiteFolder))
+        if (app.files.fileExists(inSuiteFolder))
             path = inSuiteFolder;
     }
-    if (!path.empty() && !app.sys.fileExists(path))
+    if (!path.empty() && !app.files.fileExists(path))
         path = app.ProgramFolder + BackslashFileName(path);
     return path;
 }

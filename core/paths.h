@@ -9,6 +9,7 @@
 namespace orvane {
 
 class App;
+class Files;
 
 // The drive letter that stands as a folder: "Drive_" plus the letter.
 inline constexpr wchar_t kDriveFolderPrefix[] = L"Drive_";
@@ -20,9 +21,9 @@ std::wstring Letter(int code);
 // "X:\Drive_G\rest" for the path "G:\rest".
 std::wstring AsDriveFolderPath(wchar_t drive, const std::wstring &path);
 
-std::wstring ResolveDocumentPath(App &app, const std::wstring &path);
-std::wstring TryDriveLetters(App &app, const std::wstring &rest);
-std::wstring RelocateDrivePath(App &app, const std::wstring &path);
+std::wstring ResolveDocumentPath(Files &files, const std::wstring &path);
+std::wstring TryDriveLetters(Files &files, const std::wstring &rest);
+std::wstring RelocateDrivePath(Files &files, const std::wstring &path);
 std::wstring &ResolveSuitePath(App &app, std::wstring &path);
 std::wstring &SwapProgramFilesFolder(std::wstring &path);
 

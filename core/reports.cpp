@@ -8,21 +8,21 @@ namespace orvane {
 
 void ReportFileNotFound(App &app, const std::wstring &path, const std::optional<std::wstring> &title) {
     const std::wstring shown = path.empty() ? L"( Filename empty! )" : path;
-    app.sys.showMessage(L"Cannot locate the following program/file:\r\n\r\n" + shown + L"\r\n\r\n",
-                        title.value_or(kProgramTitle), MessageIcon::Critical, MessageButtons::Ok);
-    app.sys.restoreCursor();
+    app.prompts.showMessage(L"Cannot locate the following program/file:\r\n\r\n" + shown + L"\r\n\r\n",
+                            title.value_or(kProgramTitle), MessageIcon::Critical, MessageButtons::Ok);
+    app.desktop.restoreCursor();
 }
 
 void ReportFileError(App &app, const std::wstring &path, const std::optional<std::wstring> &operation) {
     const std::wstring shown = TrimBlanks(path).empty() ? L"( no name specified or name is empty ! )" : path;
     const std::wstring verb = operation ? L"delete" : L"save";
-    const std::wstring description = app.sys.lastErrorDescription();
+    const std::wstring description = app.files.lastErrorDescription();
     const std::wstring reason = description.empty() ? L"(unknown)" : L"\"" + description + L"\"";
-    app.sys.beep();
-    app.sys.showMessage(L"Cannot " + verb + L" this file :\r\n\r\n" + shown +
-                            L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n" + reason +
-                            L"\r\n",
-                        kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
+    app.prompts.beep();
+    app.prompts.showMessage(L"Cannot " + verb + L" this file :\r\n\r\n" + shown +
+                                L"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n" +
+                                reason + L"\r\n",
+                            kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
 }
 
 std::wstring FileTooLargeText(const std::wstring &path, std::uint64_t size) {
@@ -31,8 +31,8 @@ std::wstring FileTooLargeText(const std::wstring &path, std::uint64_t size) {
            L" the program reads. Nothing of it was loaded, and the file is left as it is.\r\n";
 }
 
-void ReportFileTooLarge(App &app, const std::wstring &path, std::uint64_t size) {
-    app.sys.showMessage(FileTooLargeText(path, size), kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
+void ReportFileTooLarge(Prompts &prompts, const std::wstring &path, std::uint64_t size) {
+    prompts.showMessage(FileTooLargeText(path, size), kProgramTitle, MessageIcon::Critical, MessageButtons::Ok);
 }
 
 } // namespace orvane

@@ -8,6 +8,7 @@
 namespace orvane {
 
 class App;
+class Prompts;
 
 // "Cannot locate the following program/file:" with the path; the caption is
 // the title when given, otherwise the program's title.
@@ -19,6 +20,6 @@ void ReportFileError(App &app, const std::wstring &path, const std::optional<std
 
 // "Cannot load this file :" with the path and its size: nothing of it was read.
 std::wstring FileTooLargeText(const std::wstring &path, std::uint64_t size);
-void ReportFileTooLarge(App &app, const std::wstring &path, std::uint64_t size);
+void ReportFileTooLarge(Prompts &prompts, const std::wstring &path, std::uint64_t size);
 
 } // namespace orvane

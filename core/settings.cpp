@@ -77,27 +77,28 @@ std::wstring FormatSettings(const Settings &settings) {
 }
 
 void LoadSettings(App &app) {
-    if (app.SettingsFilePath.empty() || !app.sys.fileExists(app.SettingsFilePath)) {
+    if (app.SettingsFilePath.empty() || !app.files.fileExists(app.SettingsFilePath)) {
         ReportFileNotFound(app, app.SettingsFilePath);
         return;
     }
     // A file that exists but cannot be read (locked, say) is passed over
     // silently: every value keeps its initial state. So is one too large to be
     // read whole, which is then kept as it is rather than replaced at exit.
-    const WholeFile file = ReadWholeFile(app.sys, app.SettingsFilePath);
+    const WholeFile file = ReadWholeFile(app.files, app.SettingsFilePath);
     app.SettingsFileKept = file.tooLarge != 0;
     if (file.bytes)
-        ApplySettingsLines(app.settings, app.sys.fromAnsi(*file.bytes));
+        ApplySettingsLines(app.settings, app.locale.fromAnsi(*file.bytes));
 }
 
 void SaveSettings(App &app) {
     if (app.SettingsFileKept)
         return;
-    DeleteFileIfPresent(app, app.SettingsFilePath);
+    DeleteFileIfPresent(app.files, app.SettingsFilePath);
     // The old runtime flagged only error number -1 here; every other failure
     // to create the file goes unreported, and the program still ends.
     constexpr FileError kReportedOpenError = -1;
-    if (app.sys.writeFile(app.SettingsFilePath, app.sys.toAnsi(FormatSettings(app.settings))) == kReportedOpenError)
+    if (app.files.writeFile(app.SettingsFilePath, app.locale.toAnsi(FormatSettings(app.settings))) ==
+        kReportedOpenError)
         ReportFileError(app, app.SettingsFilePath);
 }
 

@@ -4,7 +4,7 @@
 #include <cwctype>
 #include <string_view>
 
-#include "system.h"
+#include "files.h"
 
 namespace orvane {
 
@@ -27,12 +27,12 @@ bool IsSkinFileName(const std::wstring &name) {
     return name.size() >= 9 && SameLetters(std::wstring_view(name).substr(0, 5), L"skin_") && EndsWithBmp(name);
 }
 
-bool IsUsableSkin(System &sys, const std::wstring &path) {
-    return EndsWithBmp(path) && sys.fileExists(path);
+bool IsUsableSkin(Files &files, const std::wstring &path) {
+    return EndsWithBmp(path) && files.fileExists(path);
 }
 
-std::wstring StartupSkin(System &sys, const std::wstring &skinFile, const std::wstring &programFolder) {
-    return IsUsableSkin(sys, skinFile) ? skinFile : programFolder + kDefaultSkinName;
+std::wstring StartupSkin(Files &files, const std::wstring &skinFile, const std::wstring &programFolder) {
+    return IsUsableSkin(files, skinFile) ? skinFile : programFolder + kDefaultSkinName;
 }
 
 std::wstring SkinPathInFolder(const std::wstring &folder, const std::wstring &fileName) {

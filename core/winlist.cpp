@@ -19,7 +19,7 @@ bool IsListedWindow(const TopLevelWindow &window, WindowRef mainWindow) {
 
 void RefreshWindowList(App &app) {
     app.windowList.clear();
-    for (TopLevelWindow &window : app.sys.topLevelWindows())
+    for (TopLevelWindow &window : app.desktop.topLevelWindows())
         if (IsListedWindow(window, app.MainWindowRef))
             app.windowList.push_back({std::move(window.title), window.handle});
 }

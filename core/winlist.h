@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "system.h"
+#include "desktop.h"
 
 namespace orvane {
 

@@ -11,9 +11,9 @@ constexpr wchar_t kX86[] = L" (x86)";
 constexpr std::size_t kProgramFilesLength = 16; // "C:\Program Files"
 
 // The old runtime's text of a moment: the short date, and the long time unless it is midnight.
-std::wstring GeneralDateText(System &sys, const DateTime &moment) {
+std::wstring GeneralDateText(Locale &locale, const DateTime &moment) {
     const bool midnight = moment.hour == 0 && moment.minute == 0 && moment.second == 0;
-    return sys.dateText(moment, L"") + (midnight ? L"" : L" " + sys.timeText(moment, L""));
+    return locale.dateText(moment, L"") + (midnight ? L"" : L" " + locale.timeText(moment, L""));
 }
 
 } // namespace
@@ -43,19 +43,19 @@ FileInformation InformationOf(App &app, const std::wstring &path) {
     info.fileName = BackslashFileName(path).substr(1);
     if (info.fileName.size() == 2)
         info.fileName += L'\\';
-    if (const auto facts = app.sys.fileExists(path) ? app.sys.fileFacts(path) : std::nullopt) {
-        info.altered = GeneralDateText(app.sys, facts->lastChange);
-        info.size = GroupedDigits(facts->size, app.sys.thousandsSeparator());
+    if (const auto facts = app.files.fileExists(path) ? app.files.fileFacts(path) : std::nullopt) {
+        info.altered = GeneralDateText(app.locale, facts->lastChange);
+        info.size = GroupedDigits(facts->size, app.locale.thousandsSeparator());
     } else {
         info.altered = L"(not yet saved / not present on disk)";
     }
     info.folder = ParentFolder(path);
-    const DateTime now = app.sys.now();
-    info.time = app.sys.timeText(now, L"HH:mm:ss");
-    info.date = app.sys.dateText(now, L"dddd, MMM d yyyy");
+    const DateTime now = app.locale.now();
+    info.time = app.locale.timeText(now, L"HH:mm:ss");
+    info.date = app.locale.dateText(now, L"dddd, MMM d yyyy");
     std::wstring folder = info.folder;
     EnsureTrailingBackslash(folder);
-    info.exists = app.sys.fileExists(folder + info.fileName);
+    info.exists = app.files.fileExists(folder + info.fileName);
     return info;
 }
 
@@ -64,10 +64,10 @@ std::wstring InformationText(const FileInformation &info) {
            info.altered + L"\r\n\r\nTime: " + info.time + L"\r\nDate: " + info.date + L"\r\n";
 }
 
-void CopyInformation(App &app, const FileInformation &info) {
-    app.sys.setClipboardText(InformationText(info));
-    app.sys.beep();
-    app.sys.showMessage(L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option.", kProgramTitle,
+void CopyInformation(Prompts &prompts, const FileInformation &info) {
+    prompts.setClipboardText(InformationText(info));
+    prompts.beep();
+    prompts.showMessage(L"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option.", kProgramTitle,
                         MessageIcon::Information, MessageButtons::Ok);
 }
 

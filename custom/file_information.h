@@ -8,6 +8,7 @@
 namespace orvane {
 
 class App;
+class Prompts;
 
 // Takes " (x86)" out of the path, or puts it in after the 16th character
 // (where "C:\Program Files" ends), whatever the path's start.
@@ -32,6 +33,6 @@ FileInformation InformationOf(App &app, const std::wstring &path);
 std::wstring InformationText(const FileInformation &info);
 
 // Puts the text on the clipboard, beeps and says where to find it.
-void CopyInformation(App &app, const FileInformation &info);
+void CopyInformation(Prompts &prompts, const FileInformation &info);
 
 } // namespace orvane

@@ -59,7 +59,7 @@ bool CustomListEditor::deleteLine() {
     const std::size_t at = Index(currentLine);
     const std::wstring question = L"Delete this item from the list?\r\n\r\n" + table_.DisplayNames[at] + L"\r\n" +
                                   table_.ProgramPaths[at] + L"\t\r\n";
-    if (app_.sys.showMessage(question, kProgramTitle, MessageIcon::Question, MessageButtons::YesNoDefaultNo) !=
+    if (app_.prompts.showMessage(question, kProgramTitle, MessageIcon::Question, MessageButtons::YesNoDefaultNo) !=
         MessageAnswer::Yes)
         return false;
     table_.DisplayNames[at].clear();
@@ -94,7 +94,7 @@ bool CustomListEditor::moveDown() {
 }
 
 void CustomListEditor::startLine(int line) {
-    ExecuteProcess(app_, table_.ProgramPaths[Index(line)], app_.MainWindowRef, kShowNormal, L"", false);
+    ExecuteProcess(app_.shell, table_.ProgramPaths[Index(line)], app_.MainWindowRef, kShowNormal, L"", false);
 }
 
 void CustomListEditor::takeEntry(const std::wstring &program, const std::wstring &folder) {
@@ -108,15 +108,15 @@ bool CustomListEditor::loadList() {
     std::wstring &listFile = app_.settings.CustomListFile;
     if (changed) {
         const MessageAnswer answer =
-            app_.sys.showMessage(L"Save this list of files before loading a new one?\r\n\r\n" + listFile, kProgramTitle,
-                                 MessageIcon::Question, MessageButtons::YesNoCancel);
+            app_.prompts.showMessage(L"Save this list of files before loading a new one?\r\n\r\n" + listFile,
+                                     kProgramTitle, MessageIcon::Question, MessageButtons::YesNoCancel);
         if (answer == MessageAnswer::Cancel)
             return false;
         if (answer == MessageAnswer::Yes)
             SaveCustomList(app_, table_);
     }
-    const FolderKeeper keeper(app_.sys);
-    const auto chosen = app_.sys.chooseFile(
+    const FolderKeeper keeper(app_.files);
+    const auto chosen = app_.prompts.chooseFile(
         {.title = L"Select list of programs", .filter = app_.ListFileFilter, .folder = ParentFolder(listFile)});
     if (!chosen || chosen->empty())
         return false;
@@ -132,16 +132,16 @@ bool CustomListEditor::loadList() {
 
 bool CustomListEditor::saveList() {
     std::wstring &listFile = app_.settings.CustomListFile;
-    const FolderKeeper keeper(app_.sys);
+    const FolderKeeper keeper(app_.files);
     const std::wstring folder = ParentFolder(listFile);
-    if (!folder.empty() && app_.sys.pathExists(folder))
-        app_.sys.setCurrentFolder(folder);
-    const auto chosen = app_.sys.chooseFile({.title = L"Browse files",
-                                             .filter = app_.ListFileFilter,
-                                             .preset = BackslashFileName(listFile).substr(1),
-                                             .folder = folder,
-                                             .save = true,
-                                             .defaultExtension = L"lst"});
+    if (!folder.empty() && app_.files.pathExists(folder))
+        app_.files.setCurrentFolder(folder);
+    const auto chosen = app_.prompts.chooseFile({.title = L"Browse files",
+                                                 .filter = app_.ListFileFilter,
+                                                 .preset = BackslashFileName(listFile).substr(1),
+                                                 .folder = folder,
+                                                 .save = true,
+                                                 .defaultExtension = L"lst"});
     if (!chosen || chosen->empty())
         return false;
     listFile = *chosen;

@@ -30,14 +30,14 @@ std::vector<std::size_t> GridEntries(const CustomProgramTable &table, int grid) 
 }
 
 void StartInFolder(App &app, const std::wstring &program, const std::wstring &folder) {
-    const std::wstring previous = app.sys.currentFolder();
-    if (!program.empty() && app.sys.fileExists(program)) {
-        app.sys.setCurrentFolder(folder);
+    const std::wstring previous = app.files.currentFolder();
+    if (!program.empty() && app.files.fileExists(program)) {
+        app.files.setCurrentFolder(folder);
         LaunchWithArgument(app, program, L"");
     } else {
         ReportFileNotFound(app, program);
     }
-    app.sys.setCurrentFolder(previous);
+    app.files.setCurrentFolder(previous);
 }
 
 void LaunchEntry(App &app, const CustomProgramTable &table, std::size_t entry) {
@@ -100,7 +100,7 @@ std::span<const GridButton> GridButtons() {
 
 void LoadDeadlinesWithArgument(App &app) {
     const std::wstring &document = app.settings.DeadlinesFile;
-    if (document.empty() || !app.sys.fileExists(document)) {
+    if (document.empty() || !app.files.fileExists(document)) {
         ReportFileNotFound(app, document);
         return;
     }

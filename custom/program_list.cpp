@@ -22,18 +22,18 @@ bool CustomProgramTable::isEmpty(std::size_t entry) const {
 
 bool LoadCustomList(App &app, CustomProgramTable &table) {
     const std::wstring given = app.settings.CustomListFile;
-    if (!given.empty() && !app.sys.fileExists(given)) {
-        if (std::wstring found = ResolveDocumentPath(app, given); app.sys.fileExists(found))
+    if (!given.empty() && !app.files.fileExists(given)) {
+        if (std::wstring found = ResolveDocumentPath(app.files, given); app.files.fileExists(found))
             app.settings.CustomListFile = found;
     }
     const std::wstring &path = app.settings.CustomListFile;
-    if (path.empty() || !app.sys.fileExists(path)) {
+    if (path.empty() || !app.files.fileExists(path)) {
         ReportFileNotFound(app, given);
         return false;
     }
-    const WholeFile file = ReadWholeFile(app.sys, path);
+    const WholeFile file = ReadWholeFile(app.files, path);
     if (file.tooLarge) {
-        ReportFileTooLarge(app, path, file.tooLarge);
+        ReportFileTooLarge(app.prompts, path, file.tooLarge);
         return false;
     }
     table = {};
@@ -43,8 +43,8 @@ bool LoadCustomList(App &app, CustomProgramTable &table) {
         return true;
     std::size_t number = 0;
     for (std::string_view raw : SplitAtCarriageReturns(*file.bytes, 3 * kCustomEntries)) {
-        std::wstring line = app.sys.fromAnsi(std::string(raw));
-        if (ContainsIgnoringCase(line, L".exe") && !app.sys.fileExists(line))
+        std::wstring line = app.locale.fromAnsi(std::string(raw));
+        if (ContainsIgnoringCase(line, L".exe") && !app.files.fileExists(line))
             SwapProgramFilesFolder(line);
         Section(table, number / kCustomEntries)[number % kCustomEntries] = std::move(line);
         ++number;
@@ -67,9 +67,9 @@ std::wstring FormatCustomList(CustomProgramTable &table) {
 
 // The whole content is made before the old file goes, as the settings are.
 void SaveCustomList(App &app, CustomProgramTable &table) {
-    const std::string bytes = app.sys.toAnsi(FormatCustomList(table));
-    DeleteFileIfPresent(app, app.settings.CustomListFile);
-    app.sys.writeFile(app.settings.CustomListFile, bytes);
+    const std::string bytes = app.locale.toAnsi(FormatCustomList(table));
+    DeleteFileIfPresent(app.files, app.settings.CustomListFile);
+    app.files.writeFile(app.settings.CustomListFile, bytes);
 }
 
 } // namespace orvane

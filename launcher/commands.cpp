@@ -115,15 +115,15 @@ void MainCommands::run(const DispatchRow &row) {
 
 void MainCommands::runIcon(int index) {
     const auto icons = StripIcons();
-    app_.sys.showWaitCursor();
+    app_.desktop.showWaitCursor();
     if (index >= 0 && index < static_cast<int>(icons.size()))
         run(icons[static_cast<std::size_t>(index)].row);
-    app_.sys.restoreCursor();
-    app_.sys.processPendingEvents();
+    app_.desktop.restoreCursor();
+    app_.desktop.processPendingEvents();
 }
 
 bool MainCommands::executeForMainWindow(const std::wstring &file, const std::wstring &parameters) {
-    const bool started = ExecuteProcess(app_, file, app_.MainWindowRef, kShowNormal, parameters, runAs);
+    const bool started = ExecuteProcess(app_.shell, file, app_.MainWindowRef, kShowNormal, parameters, runAs);
     app_.LastLaunchResult = started ? -1 : 0;
     return started;
 }
@@ -135,8 +135,8 @@ void MainCommands::launchSuiteTool(Tool tool, const std::wstring &parameters) {
 }
 
 std::optional<std::wstring> MainCommands::locateDocument(const std::wstring &storedName) {
-    const std::wstring document = ResolveDocumentPath(app_, storedName);
-    if (document.empty() || !app_.sys.fileExists(document)) {
+    const std::wstring document = ResolveDocumentPath(app_.files, storedName);
+    if (document.empty() || !app_.files.fileExists(document)) {
         ReportFileNotFound(app_, document);
         return std::nullopt;
     }
@@ -163,7 +163,7 @@ void MainCommands::loadAddresses() {
 
 void MainCommands::loadCustomBrowser() {
     const std::wstring &browser = app_.settings.CustomBrowser;
-    if (browser.empty() || !app_.sys.fileExists(browser)) {
+    if (browser.empty() || !app_.files.fileExists(browser)) {
         ReportFileNotFound(app_, browser);
         return;
     }
@@ -180,8 +180,8 @@ void MainCommands::openWebmail() {
 }
 
 void MainCommands::exploreCurrentFolder() {
-    const std::wstring folder = app_.sys.currentFolder();
-    app_.sys.shellVerb(app_.MainWindowRef, L"explore", folder, folder, kShowNormal);
+    const std::wstring folder = app_.files.currentFolder();
+    app_.shell.shellVerb(app_.MainWindowRef, L"explore", folder, folder, kShowNormal);
 }
 
 } // namespace orvane

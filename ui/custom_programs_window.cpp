@@ -101,7 +101,7 @@ private:
                                          : (number == 1 ? app_.settings.CustomGrid1Row : app_.settings.CustomGrid2Row);
             grid(number).setCurrentRow(restored >= 0 && restored < grid(number).rowCount() ? restored : 0);
         }
-        app_.sys.processPendingEvents();
+        app_.desktop.processPendingEvents();
     }
 
     void activated() {

@@ -38,9 +38,10 @@ private:
         switch (id) {
         case IDC_CHANGE_FILE:
             // Lines are numbered from 1, as the editor shows them.
-            if (const auto file = app_.sys.chooseFile({.title = L"Select program no.: " + std::to_wstring(entry_ + 1),
-                                                       .filter = L"Programs (*.exe)|*.exe",
-                                                       .preset = choice_.program}))
+            if (const auto file =
+                    app_.prompts.chooseFile({.title = L"Select program no.: " + std::to_wstring(entry_ + 1),
+                                             .filter = L"Programs (*.exe)|*.exe",
+                                             .preset = choice_.program}))
                 choice_.program = *file;
             break;
         case IDC_CHANGE_FOLDER:

@@ -36,7 +36,7 @@ private:
     void onCommand(int id, int code) override {
         switch (id) {
         case IDC_INFO_CLIP:
-            CopyInformation(app_, info_);
+            CopyInformation(app_.prompts, info_);
             return;
         case IDC_INFO_PROPERTIES: {
             // The properties sheet is a verb of the item itself, not of its file type.
@@ -51,7 +51,7 @@ private:
             return;
         }
         case IDC_INFO_EXPLORER:
-            app_.sys.shellVerb(ToRef(hwnd()), L"explore", info_.folder, info_.folder, kShowNormal);
+            app_.shell.shellVerb(ToRef(hwnd()), L"explore", info_.folder, info_.folder, kShowNormal);
             return;
         case IDC_INFO_INSPECTOR: {
             std::wstring program = BuiltInPath(Tool::FileInspector), document = path_;

@@ -8,7 +8,7 @@
 #include <memory>
 #include <utility>
 
-#include "system.h"
+#include "window_ref.h"
 
 namespace orvane::ui {
 

@@ -38,8 +38,8 @@ private:
             text_ = itemText(IDC_BOX_TEXT);
             break;
         case IDC_DESKTOP_FOLDER: {
-            const std::wstring desktop = app_.sys.specialFolder(kDesktopFolder);
-            app_.sys.shellVerb(ToRef(hwnd()), L"open", desktop, desktop, kShowNormal);
+            const std::wstring desktop = app_.shell.specialFolder(kDesktopFolder);
+            app_.shell.shellVerb(ToRef(hwnd()), L"open", desktop, desktop, kShowNormal);
             return;
         }
         case IDC_EXPLORER:

@@ -130,11 +130,11 @@ void StopImaging(ULONG_PTR token) {
 UniqueBitmap LoadScaledPicture(App &app, const std::wstring &path, int &width, int &height, COLORREF background,
                                bool keepAspect) {
     const auto failed = [&] {
-        app.sys.showMessage(PictureErrorText(path), kImagingTitle, MessageIcon::None, MessageButtons::Ok);
+        app.prompts.showMessage(PictureErrorText(path), kImagingTitle, MessageIcon::None, MessageButtons::Ok);
         return UniqueBitmap();
     };
     // A PNG says its size up front: one too large is refused before it is decoded.
-    const auto head = app.sys.readFile(path, 24);
+    const auto head = app.files.readFile(path, 24);
     const auto declared = head ? PngSize(*head) : std::nullopt;
     Gdiplus::GpImage *loaded = nullptr;
     if ((declared && TooLargeToDecode(*declared)) || !Imaging().bound() ||
@@ -168,7 +168,7 @@ UniqueBitmap LoadStandardPicture(App &app, const std::wstring &path, PixelSize &
         BoundAtFirstUse<HRESULT(WINAPI *)(HGLOBAL, BOOL, IStream **)>(L"ole32.dll", "CreateStreamOnHGlobal");
     static const auto loadPicture =
         BoundAtFirstUse<HRESULT(WINAPI *)(IStream *, LONG, BOOL, REFIID, void **)>(L"oleaut32.dll", "OleLoadPicture");
-    const auto bytes = app.sys.readFile(path, kMostStandardPictureBytes);
+    const auto bytes = app.files.readFile(path, kMostStandardPictureBytes);
     if (!bytes || bytes->empty() || !createStream || !loadPicture)
         return {};
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes->size());

@@ -60,13 +60,13 @@ private:
         if (name.empty())
             return;
         app_.settings.SkinFile = SkinPathInFolder(app_.settings.SkinFolder, name);
-        if (IsUsableSkin(app_.sys, app_.settings.SkinFile) && actions_.applySkin)
+        if (IsUsableSkin(app_.files, app_.settings.SkinFile) && actions_.applySkin)
             actions_.applySkin();
     }
 
     void chooseFolder() {
         // Owned by the chooser, so the chooser cannot be used or closed while it is open.
-        const auto folder = BrowseForFolder(hwnd(), L"Select a folder", app_.sys.currentFolder());
+        const auto folder = BrowseForFolder(hwnd(), L"Select a folder", app_.files.currentFolder());
         if (!folder || folder->empty())
             return;
         app_.settings.SkinFolder = *folder;

@@ -40,7 +40,7 @@ std::wstring PictureErrorText(const std::wstring &path) {
 
 std::optional<std::wstring> WallpaperImage(App &app) {
     const std::wstring &path = app.settings.WallpaperFile;
-    if (!path.empty() && app.sys.fileExists(path))
+    if (!path.empty() && app.files.fileExists(path))
         return path;
     ReportFileNotFound(app, path);
     return std::nullopt;
@@ -55,8 +55,8 @@ bool ReturnAllowed(App &app, const std::wstring &typed) {
     const std::wstring &password = app.settings.ReturnPassword;
     if (password.empty() || (!typed.empty() && TrimBlanks(typed) == password))
         return true;
-    app.sys.showMessage(L"Wrong password!\r\n\r\n\"" + typed + L"\"", kProgramTitle, MessageIcon::Critical,
-                        MessageButtons::Ok);
+    app.prompts.showMessage(L"Wrong password!\r\n\r\n\"" + typed + L"\"", kProgramTitle, MessageIcon::Critical,
+                            MessageButtons::Ok);
     return false;
 }
 

@@ -50,12 +50,12 @@ constexpr auto kCommands = std::to_array<C>({
 });
 static_assert(kMenu.size() == kCommands.size());
 
-MessageAnswer Ask(App &app, const std::wstring &text, MessageButtons buttons) {
-    return app.sys.showMessage(text, kProgramTitle, MessageIcon::Question, buttons);
+MessageAnswer Ask(Prompts &prompts, const std::wstring &text, MessageButtons buttons) {
+    return prompts.showMessage(text, kProgramTitle, MessageIcon::Question, buttons);
 }
 
-void Say(App &app, const std::wstring &text, MessageIcon icon) {
-    app.sys.showMessage(text, kProgramTitle, icon, MessageButtons::Ok);
+void Say(Prompts &prompts, const std::wstring &text, MessageIcon icon) {
+    prompts.showMessage(text, kProgramTitle, icon, MessageButtons::Ok);
 }
 
 } // namespace
@@ -77,10 +77,10 @@ bool WebList::load() {
 }
 
 bool WebList::read(const std::wstring &path) {
-    const WholeFile file = ReadWholeFile(app_.sys, path);
+    const WholeFile file = ReadWholeFile(app_.files, path);
     // Refused before anything changes: the window keeps the list it had, and its name.
     if (file.tooLarge) {
-        ReportFileTooLarge(app_, path, file.tooLarge);
+        ReportFileTooLarge(app_.prompts, path, file.tooLarge);
         return false;
     }
     app_.settings.WebListFile = path;
@@ -89,10 +89,10 @@ bool WebList::read(const std::wstring &path) {
     current = currentGroup = -1;
     selectedGroups.clear();
     if (!file.bytes) {
-        Say(app_, L"Can't open file: " + path, MessageIcon::None);
+        Say(app_.prompts, L"Can't open file: " + path, MessageIcon::None);
         return false;
     }
-    content = ParseWebList(app_.sys.fromAnsi(*file.bytes));
+    content = ParseWebList(app_.locale.fromAnsi(*file.bytes));
     if (!rows.empty())
         makeCurrent(0);
     return true;
@@ -104,23 +104,23 @@ bool WebList::save() {
     // The old writer counted rows in 16 bits and broke off half-way; refuse before anything is touched.
     const auto text = FormatWebList(content);
     if (!text) {
-        Say(app_,
+        Say(app_.prompts,
             L"This list has " + std::to_wstring(rows.size()) + L" entries, more than the " +
                 std::to_wstring(kMostSavedRows) + L" a web list file can hold. Nothing was saved.",
             MessageIcon::Exclamation);
         return false;
     }
-    const auto chosen = app_.sys.chooseFile(
+    const auto chosen = app_.prompts.chooseFile(
         {.title = L"Save web list to disk", .filter = kListFilter, .save = true, .defaultExtension = L"lst"});
     if (!chosen || chosen->empty()) {
-        app_.sys.beep();
-        Say(app_, L"Data grid contains no entries !", MessageIcon::Exclamation);
+        app_.prompts.beep();
+        Say(app_.prompts, L"Data grid contains no entries !", MessageIcon::Exclamation);
         return false;
     }
     std::wstring &path = app_.settings.WebListFile;
     path = *chosen;
-    DeleteFileIfPresent(app_, path);
-    if (app_.sys.writeFile(path, app_.sys.toAnsi(*text)) != 0) {
+    DeleteFileIfPresent(app_.files, path);
+    if (app_.files.writeFile(path, app_.locale.toAnsi(*text)) != 0) {
         ReportFileError(app_, path);
         return false;
     }
@@ -129,8 +129,8 @@ bool WebList::save() {
 }
 
 bool WebList::openList() {
-    const FolderKeeper keeper(app_.sys);
-    const auto chosen = app_.sys.chooseFile({.title = L"Load list of websites", .filter = kListFilter});
+    const FolderKeeper keeper(app_.files);
+    const auto chosen = app_.prompts.chooseFile({.title = L"Load list of websites", .filter = kListFilter});
     if (!chosen || chosen->empty())
         return false;
     return read(*chosen);
@@ -138,7 +138,8 @@ bool WebList::openList() {
 
 bool WebList::confirmClose() {
     while (changed) {
-        const MessageAnswer answer = Ask(app_, L"Save list before exiting this level ? ", MessageButtons::YesNoCancel);
+        const MessageAnswer answer =
+            Ask(app_.prompts, L"Save list before exiting this level ? ", MessageButtons::YesNoCancel);
         if (answer == MessageAnswer::Cancel)
             return false;
         if (answer != MessageAnswer::Yes)
@@ -152,13 +153,13 @@ FileInformation WebList::information() {
     const std::wstring &path = app_.settings.WebListFile;
     FileInformation info = InformationOf(app_, path);
     info.fileName = BackslashFileName(path).substr(1) + L"    ( " + std::to_wstring(rows.size()) + L" items )";
-    info.folder = app_.sys.currentFolder();
+    info.folder = app_.files.currentFolder();
     return info;
 }
 
 std::optional<std::wstring> WebList::chooseBrowser() {
-    const FolderKeeper keeper(app_.sys);
-    const auto chosen = app_.sys.chooseFile(
+    const FolderKeeper keeper(app_.files);
+    const auto chosen = app_.prompts.chooseFile(
         {.title = L"Specify custom browser", .filter = L"Programs (*.exe)|*.exe|All files (*.*)|*.*"});
     if (!chosen || chosen->empty())
         return std::nullopt;
@@ -167,7 +168,7 @@ std::optional<std::wstring> WebList::chooseBrowser() {
 
 bool WebList::refuseInGroupPanel() {
     if (groupShown)
-        Say(app_, L"Add items to group list by selecting them from the main list", MessageIcon::Information);
+        Say(app_.prompts, L"Add items to group list by selecting them from the main list", MessageIcon::Information);
     return groupShown;
 }
 
@@ -229,11 +230,11 @@ bool WebList::deleteSelected() {
             count += row.selected;
     }
     if (count == 0) {
-        Say(app_, L"No items selected!", MessageIcon::Exclamation);
+        Say(app_.prompts, L"No items selected!", MessageIcon::Exclamation);
         return false;
     }
-    if (Ask(app_, L"Delete " + std::to_wstring(count) + L" items from list ? ", MessageButtons::YesNoDefaultNo) !=
-        MessageAnswer::Yes)
+    if (Ask(app_.prompts, L"Delete " + std::to_wstring(count) + L" items from list ? ",
+            MessageButtons::YesNoDefaultNo) != MessageAnswer::Yes)
         return false;
     if (groupShown) {
         for (std::size_t entry : selectedGroups)
@@ -275,7 +276,7 @@ bool WebList::addToGroup() {
             ++count;
         }
     if (count < 2) {
-        Say(app_, L"You must select at least two items for a group list entry!", MessageIcon::Exclamation);
+        Say(app_.prompts, L"You must select at least two items for a group list entry!", MessageIcon::Exclamation);
         return false;
     }
     changed = true;
@@ -285,7 +286,7 @@ bool WebList::addToGroup() {
 }
 
 bool WebList::emptyGroups() {
-    if (Ask(app_, L"Empty list now?", MessageButtons::YesNo) != MessageAnswer::Yes)
+    if (Ask(app_.prompts, L"Empty list now?", MessageButtons::YesNo) != MessageAnswer::Yes)
         return false;
     groups.clear();
     selectedGroups.clear();
@@ -318,7 +319,7 @@ std::optional<WebEdit> WebList::startEdit() {
 
 bool WebList::enter(const std::wstring &name, const std::wstring &site) {
     if (name.empty() || site.empty()) {
-        Say(app_, name.empty() ? L"Name field is empty!" : L"URL field is empty!", MessageIcon::Exclamation);
+        Say(app_.prompts, name.empty() ? L"Name field is empty!" : L"URL field is empty!", MessageIcon::Exclamation);
         return false;
     }
     accept(name, site);
@@ -356,7 +357,7 @@ void WebList::openWebsites() {
             !rows[static_cast<std::size_t>(current)].isSeparator() && (count == 0 || singleRow))
             addresses = rows[static_cast<std::size_t>(current)].address;
     }
-    const bool go = count < 4 || Ask(app_, L"Load " + std::to_wstring(count) + L" selected websites from list?",
+    const bool go = count < 4 || Ask(app_.prompts, L"Load " + std::to_wstring(count) + L" selected websites from list?",
                                      MessageButtons::YesNo) == MessageAnswer::Yes;
     singleRow = false;
     if (!go || addresses.empty())
@@ -366,7 +367,7 @@ void WebList::openWebsites() {
     if (s.WebBrowserChoice < 1 || s.WebBrowserChoice > 3)
         return;
     // The path stays unquoted and every address goes in the one command line.
-    app_.sys.startCommandLine(*browsers[s.WebBrowserChoice - 1] + L" " + addresses, kShowNormal);
+    app_.shell.startCommandLine(*browsers[s.WebBrowserChoice - 1] + L" " + addresses, kShowNormal);
 }
 
 } // namespace orvane

@@ -54,8 +54,8 @@ orvane::WebListContent ListOf(int count) {
 // What the window's save does once its dialog has named the file.
 void Save(orvane::App &app, const orvane::WebListContent &list, const std::wstring &path) {
     const auto text = orvane::FormatWebList(list);
-    orvane::DeleteFileIfPresent(app, path);
-    if (!text || app.sys.writeFile(path, app.sys.toAnsi(*text)) != 0)
+    orvane::DeleteFileIfPresent(app.files, path);
+    if (!text || app.files.writeFile(path, app.locale.toAnsi(*text)) != 0)
         std::printf("error: %ls not written\n", path.c_str());
 }
 

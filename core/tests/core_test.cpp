@@ -243,10 +243,10 @@ TEST_F(Core, BrowserAndArgumentCommandLinesQuoteOnlyWithABlankAndShellRequestsNa
                   (Lines{L"events", L"start C:\\Web\\web.exe" + tail, L"events", L"start C:\\P\\p.exe" + tail}));
     }
     // Shell requests name the file's folder; exploring the current folder: the Win32 RealLaunch test.
-    EXPECT_TRUE(ExecuteProcess(app, L"C:\\Tools\\a.exe", 77, 1, L"-x", false));
+    EXPECT_TRUE(ExecuteProcess(app.shell, L"C:\\Tools\\a.exe", 77, 1, L"-x", false));
     sys.shellAccepts = false;
-    EXPECT_FALSE(ExecuteProcess(app, L"a.exe", 0, 3, L"", true));
-    EXPECT_FALSE(ExecuteProcess(app, L" ", 0, 1, L"", false)) << "no file, no request";
+    EXPECT_FALSE(ExecuteProcess(app.shell, L"a.exe", 0, 3, L"", true));
+    EXPECT_FALSE(ExecuteProcess(app.shell, L" ", 0, 1, L"", false)) << "no file, no request";
     using Request = std::tuple<WindowRef, std::wstring, std::wstring, std::wstring, std::wstring, int>;
     std::vector<Request> requests;
     for (const auto &r : sys.shellRequests)
@@ -270,7 +270,7 @@ TEST_F(Core, OsVersionNamesSystemFoldersDeletingAndFileErrors) {
     // Deleting skips empty and missing names; a file error names the operation and the reason.
     sys.addFile(L"C:\\x.txt");
     for (const wchar_t *file : {L"", L"C:\\y.txt", L"C:\\x.txt"})
-        DeleteFileIfPresent(app, file);
+        DeleteFileIfPresent(app.files, file);
     ReportFileError(app, L"C:\\a.lst", L"");
     ReportFileError(app, L"   ");
     EXPECT_EQ(sys.journal,
@@ -301,11 +301,11 @@ TEST_F(Core, PathPiecesTheDocumentPathSearchOrderRelocationAndTheSuitePathSearch
     EXPECT_EQ(ParentFolder(L"a.exe") + L"|" + BackslashFileName(L"x.exe") + L"|" + MidFrom(L"abc", 4) + L"|" +
                   LeftOf(L"", 1),
               L"|\\x.exe||");
-    const auto walk = [&](std::initializer_list<Step> steps, auto resolve) {
+    const auto walk = [&](std::initializer_list<Step> steps, auto resolve, auto &context) {
         for (const auto &[added, path, expected] : steps) {
             if (added)
                 sys.addFile(added);
-            EXPECT_EQ(resolve(app, path), expected) << (added ? added : L"-") << " for " << path;
+            EXPECT_EQ(resolve(context, path), expected) << (added ? added : L"-") << " for " << path;
         }
     };
     const wchar_t *notes = L"C:\\Drive_G\\T\\Notes.vrt", *stored = L"C:\\Drive_G\\TellmarkSet\\X\\X.exe";
@@ -319,26 +319,28 @@ TEST_F(Core, PathPiecesTheDocumentPathSearchOrderRelocationAndTheSuitePathSearch
           {nullptr, notes, notes},
           {L"G:\\T\\Notes.vrt", notes, L"G:\\T\\Notes.vrt"},
           {notes, notes, notes}},
-         ResolveDocumentPath);
-    EXPECT_EQ(TryDriveLetters(app, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
+         ResolveDocumentPath, app.files);
+    EXPECT_EQ(TryDriveLetters(app.files, L":\\Drive_G\\y"), L"Z:\\Drive_G\\y") << "nothing found: the last drive tried";
     // Relocating maps between drive folders and drives (no name stays none: the suite path's last step).
     walk({{nullptr, L"G:\\TellmarkSet\\X\\X.exe", stored},
           {L"D:\\Drive_G\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"},
           {L"G:\\TellmarkSet\\Y.exe", L"G:\\TellmarkSet\\Y.exe", L"G:\\TellmarkSet\\Y.exe"}},
-         RelocateDrivePath);
+         RelocateDrivePath, app.files);
     // Swapping Program Files folders (both ways, exact case: the custom list test) cuts as if the folder stood first.
     std::wstring cut = L"D:\\C:\\Program Files\\x";
     EXPECT_EQ(SwapProgramFilesFolder(cut), L"C:\\Program Files (x86)\\es\\x");
     // A suite program, after the relocations above (so not on drive D); found nowhere, it is beside this program.
-    walk({{nullptr, stored, L"C:\\Orvane\\X.exe"},
-          {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
-          {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"},
-          {stored, stored, stored},
-          {L"C:\\Orvane\\X.exe", L"E:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"},
-          {nullptr, L"", L""}},
-         [](App &context, std::wstring path) {
-             return &ResolveSuitePath(context, path) == &path ? path : L"?";
-         });
+    walk(
+        {{nullptr, stored, L"C:\\Orvane\\X.exe"},
+         {L"C:\\TellmarkSet\\X.exe", stored, L"C:\\TellmarkSet\\X.exe"},
+         {L"G:\\TellmarkSet\\X\\X.exe", stored, L"G:\\TellmarkSet\\X\\X.exe"},
+         {stored, stored, stored},
+         {L"C:\\Orvane\\X.exe", L"E:\\Drive_G\\TellmarkSet\\X\\X.exe", L"C:\\Orvane\\X.exe"},
+         {nullptr, L"", L""}},
+        [](App &context, std::wstring path) {
+            return &ResolveSuitePath(context, path) == &path ? path : L"?";
+        },
+        app);
 }
 
 // The Office locator and the settings dialogs; e2e Commands: the file dialogs, and Excel's last resort with Word set.
