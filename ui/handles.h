@@ -94,6 +94,7 @@ using UniqueDC = Unique<NullTraits<HDC, DeleteDC>>;
 using UniqueMenu = Unique<NullTraits<HMENU, DestroyMenu>>;
 using UniqueAccelerators = Unique<NullTraits<HACCEL, DestroyAcceleratorTable>>;
 using UniqueHook = Unique<NullTraits<HHOOK, UnhookWindowsHookEx>>;
+using UniqueView = Unique<NullTraits<void *, UnmapViewOfFile>>;
 using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, ILFree>>;
 
 // COM and its automation strings, bound at first use: importing ole32 and

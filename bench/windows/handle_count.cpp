@@ -36,22 +36,9 @@ HandleCounts Count() {
 } // namespace
 
 extern "C" __declspec(dllexport) LRESULT CALLBACK CountHandlesHook(int code, WPARAM wParam, LPARAM lParam) {
-    static const UINT request = RegisterWindowMessageW(orvane::bench::kCountMessage);
-    auto *message = reinterpret_cast<MSG *>(lParam);
-    if (code == HC_ACTION && wParam == PM_REMOVE && message->message == request) {
+    if (orvane::testsupport::TakeQuestion(code, wParam, lParam, orvane::bench::kCountChannel)) {
         const HandleCounts counts = Count();
-        if (HANDLE map = OpenFileMappingW(FILE_MAP_WRITE, FALSE, orvane::bench::kCountsName)) {
-            if (void *view = MapViewOfFile(map, FILE_MAP_WRITE, 0, 0, sizeof counts)) {
-                *static_cast<HandleCounts *>(view) = counts;
-                UnmapViewOfFile(view);
-            }
-            CloseHandle(map);
-        }
-        if (HANDLE done = OpenEventW(EVENT_MODIFY_STATE, FALSE, orvane::bench::kCountedName)) {
-            SetEvent(done);
-            CloseHandle(done);
-        }
-        message->message = WM_NULL;
+        orvane::testsupport::Answer(orvane::bench::kCountChannel, &counts, sizeof counts);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }

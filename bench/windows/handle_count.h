@@ -4,15 +4,16 @@
 
 #include <windows.h>
 
-namespace orvane::bench {
+#include "hook_channel.h"
 
-inline constexpr wchar_t kCountMessage[] = L"Orvane.Soak.CountHandles";
-inline constexpr wchar_t kCountsName[] = L"Local\\Orvane.Soak.Counts";
-inline constexpr wchar_t kCountedName[] = L"Local\\Orvane.Soak.Counted";
+namespace orvane::bench {
 
 // Live objects of the process, as its own calls see them; -1 for a kind that cannot be counted.
 struct HandleCounts {
     long gdi = 0, menus = 0, icons = 0, accelerators = 0;
 };
+
+inline constexpr testsupport::HookChannelNames kCountChannel{L"Orvane.Soak.CountHandles", L"Local\\Orvane.Soak.Counts",
+                                                             L"Local\\Orvane.Soak.Counted", sizeof(HandleCounts)};
 
 } // namespace orvane::bench

@@ -60,34 +60,14 @@ struct Reading {
 // The program's objects and memory, read from here or from inside it.
 class Meter {
 public:
-    Meter(const OrvaneProcess &orvane, HWND bar) : orvane_(orvane), bar_(bar) {
-        const std::wstring dll = testsupport::ExeFolder() + L"\\handle_count.dll";
-        library_ = LoadLibraryW(dll.c_str());
-        const auto hook =
-            reinterpret_cast<HOOKPROC>(reinterpret_cast<void *>(GetProcAddress(library_, "CountHandlesHook")));
-        map_ = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(HandleCounts), kCountsName);
-        done_ = CreateEventW(nullptr, FALSE, FALSE, kCountedName);
-        view_ = map_ ? MapViewOfFile(map_, FILE_MAP_READ, 0, 0, 0) : nullptr;
-        if (hook)
-            hook_ = SetWindowsHookExW(WH_GETMESSAGE, hook, library_, GetWindowThreadProcessId(bar, nullptr));
+    Meter(const OrvaneProcess &orvane, HWND bar)
+        : orvane_(orvane), counter_(bar, L"handle_count.dll", "CountHandlesHook", kCountChannel) {
         SetLastError(0);
         system_ = GetGuiResources(orvane.handle(), GR_GDIOBJECTS) != 0;
         if (!system_)
             std::printf("GetGuiResources answers 0 (error %lu): objects counted inside orvane.exe instead\n",
                         GetLastError());
     }
-    ~Meter() {
-        if (hook_)
-            UnhookWindowsHookEx(hook_);
-        if (view_)
-            UnmapViewOfFile(view_);
-        if (done_)
-            CloseHandle(done_);
-        if (map_)
-            CloseHandle(map_);
-    }
-    Meter(const Meter &) = delete;
-    Meter &operator=(const Meter &) = delete;
 
     std::optional<Reading> read() const {
         Reading r;
@@ -95,13 +75,10 @@ public:
             r.gdi = static_cast<long>(GetGuiResources(orvane_.handle(), GR_GDIOBJECTS));
             r.user = static_cast<long>(GetGuiResources(orvane_.handle(), GR_USEROBJECTS));
         } else {
-            if (!hook_ || !view_)
+            const auto *answer = static_cast<const HandleCounts *>(counter_.ask(10000));
+            if (!answer)
                 return std::nullopt;
-            ResetEvent(done_);
-            PostMessageW(bar_, RegisterWindowMessageW(kCountMessage), 0, 0);
-            if (WaitForSingleObject(done_, 10000) != WAIT_OBJECT_0)
-                return std::nullopt;
-            const HandleCounts counts = *static_cast<const HandleCounts *>(view_);
+            const HandleCounts counts = *answer;
             r.gdi = counts.gdi;
             r.user = windows() + counts.menus + std::max(0L, counts.icons) + counts.accelerators;
         }
@@ -144,11 +121,7 @@ private:
     }
 
     const OrvaneProcess &orvane_;
-    HWND bar_;
-    HMODULE library_ = nullptr;
-    HANDLE map_ = nullptr, done_ = nullptr;
-    void *view_ = nullptr;
-    HHOOK hook_ = nullptr;
+    testsupport::HookChannel counter_;
     bool system_ = false;
 };
 

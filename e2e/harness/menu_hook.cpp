@@ -1,6 +1,5 @@
 // menu_hook.dll: a menu can only be read inside the process that owns it, so the harness hooks the program's thread
-// with this DLL. On the registered message it writes the window's menu, one item a line
-// ("depth<TAB>id<TAB>type<TAB>text"), into shared memory and signals that it is done.
+// with this DLL. Asked, it answers with the window's menu, one item a line ("depth<TAB>id<TAB>type<TAB>text").
 #include "orvane_process.h"
 
 #include <algorithm>
@@ -28,24 +27,12 @@ void Walk(HMENU menu, int depth, std::wstring &out) {
 } // namespace
 
 extern "C" __declspec(dllexport) LRESULT CALLBACK ReadMenuHook(int code, WPARAM wParam, LPARAM lParam) {
-    static const UINT request = RegisterWindowMessageW(orvane::e2e::kReadMenuMessage);
-    auto *message = reinterpret_cast<MSG *>(lParam);
-    if (code == HC_ACTION && wParam == PM_REMOVE && message->message == request) {
+    using orvane::e2e::kMenuChannel;
+    if (orvane::testsupport::TakeQuestion(code, wParam, lParam, kMenuChannel)) {
         std::wstring dump;
-        Walk(GetMenu(message->hwnd), 0, dump);
-        dump.resize(std::min(dump.size(), orvane::e2e::kMenuDumpChars - 1));
-        HANDLE map = OpenFileMappingW(FILE_MAP_WRITE, FALSE, orvane::e2e::kMenuDumpName);
-        if (auto *view = map ? static_cast<wchar_t *>(MapViewOfFile(map, FILE_MAP_WRITE, 0, 0, 0)) : nullptr) {
-            std::copy(dump.c_str(), dump.c_str() + dump.size() + 1, view);
-            UnmapViewOfFile(view);
-        }
-        if (map)
-            CloseHandle(map);
-        if (HANDLE done = OpenEventW(EVENT_MODIFY_STATE, FALSE, orvane::e2e::kMenuDoneName)) {
-            SetEvent(done);
-            CloseHandle(done);
-        }
-        message->message = WM_NULL;
+        Walk(GetMenu(reinterpret_cast<MSG *>(lParam)->hwnd), 0, dump);
+        dump.resize(std::min(dump.size(), kMenuChannel.bytes / sizeof(wchar_t) - 1));
+        orvane::testsupport::Answer(kMenuChannel, dump.c_str(), (dump.size() + 1) * sizeof(wchar_t));
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }

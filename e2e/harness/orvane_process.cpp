@@ -108,28 +108,14 @@ bool AnswerMessage(DWORD processId, const std::wstring &text, int buttonId, cons
 }
 
 std::vector<MenuItem> ReadMenu(HWND window) {
-    static HMODULE hook = LoadLibraryW((ExeFolder() + L"\\menu_hook.dll").c_str());
-    const auto procedure = reinterpret_cast<HOOKPROC>(reinterpret_cast<void *>(GetProcAddress(hook, "ReadMenuHook")));
-    if (!procedure)
-        return {};
-    HANDLE map =
-        CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, DWORD(kMenuDumpChars * 2), kMenuDumpName);
-    HANDLE done = CreateEventW(nullptr, TRUE, FALSE, kMenuDoneName);
-    auto *view = static_cast<wchar_t *>(MapViewOfFile(map, FILE_MAP_READ, 0, 0, 0));
-    HHOOK installed = SetWindowsHookExW(WH_GETMESSAGE, procedure, hook, GetWindowThreadProcessId(window, nullptr));
+    const testsupport::HookChannel channel(window, L"menu_hook.dll", "ReadMenuHook", kMenuChannel);
     // A bar always has a menu: an empty answer means the request went astray
     // (seen once while the shell's desktop toggle ran), so it is asked again.
     std::wstring dump;
-    for (int attempt = 0; attempt < 3 && dump.empty() && view; ++attempt) {
-        ResetEvent(done);
-        PostMessageW(window, RegisterWindowMessageW(kReadMenuMessage), 0, 0);
-        if (WaitForSingleObject(done, 5000) == WAIT_OBJECT_0)
-            dump = view;
+    for (int attempt = 0; attempt < 3 && dump.empty() && channel; ++attempt) {
+        if (const void *answer = channel.ask(5000))
+            dump = static_cast<const wchar_t *>(answer);
     }
-    UnhookWindowsHookEx(installed);
-    UnmapViewOfFile(view);
-    CloseHandle(done);
-    CloseHandle(map);
     std::vector<MenuItem> items;
     std::wistringstream lines(dump);
     for (MenuItem item; lines >> item.depth >> item.id >> item.type && lines.get() && std::getline(lines, item.text);)

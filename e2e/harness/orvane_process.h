@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "hook_channel.h"
+
 namespace orvane::e2e {
 
 using namespace std::chrono_literals;
@@ -94,12 +96,11 @@ inline std::vector<std::string> SplitCrLf(const std::string &text) {
     return lines;
 }
 
-// A user's hands on the program: its menus, the keyboard, its dialogs' controls. What the harness and
-// menu_hook.dll, loaded into orvane.exe, share to read a menu inside the program that owns it:
-inline constexpr wchar_t kReadMenuMessage[] = L"Orvane.Test.ReadMenu";
-inline constexpr wchar_t kMenuDumpName[] = L"Local\\Orvane.Test.MenuDump";
-inline constexpr wchar_t kMenuDoneName[] = L"Local\\Orvane.Test.MenuDone";
-inline constexpr std::size_t kMenuDumpChars = 1 << 16;
+// A user's hands on the program: its menus, the keyboard, its dialogs' controls. A menu is read inside the program
+// that owns it, by menu_hook.dll:
+inline constexpr testsupport::HookChannelNames kMenuChannel{L"Orvane.Test.ReadMenu", L"Local\\Orvane.Test.MenuDump",
+                                                            L"Local\\Orvane.Test.MenuDone",
+                                                            (1 << 16) * sizeof(wchar_t)};
 
 struct MenuItem {
     int depth = 0;     // 0 for the bar's own items
