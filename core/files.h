@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "user_locale.h"
 
@@ -37,6 +38,8 @@ public:
     virtual std::optional<FileFacts> fileFacts(const std::wstring &path) = 0;
     // The system's words for the last failed operation; empty when there is none.
     virtual std::wstring lastErrorDescription() = 0;
+    // The files in a folder and all its subfolders, as full paths; a very large tree is cut short.
+    virtual std::vector<std::wstring> filesBelow(const std::wstring &folder) = 0;
 };
 
 } // namespace orvane

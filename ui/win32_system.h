@@ -12,6 +12,11 @@ inline const wchar_t *OrNull(const std::wstring &text) {
     return text.empty() ? nullptr : text.c_str();
 }
 
+inline DateTime FromSystemTime(const SYSTEMTIME &t) {
+    return {t.wYear, t.wMonth, t.wDay, t.wDayOfWeek, t.wHour, t.wMinute, t.wSecond};
+}
+
+// The files are in win32_files.cpp, the prompts in win32_prompts.cpp.
 class Win32System : public System {
 public:
     // Message boxes and file dialogs are owned by the active window of the
@@ -29,6 +34,7 @@ public:
     bool setCurrentFolder(const std::wstring &folder) override;
     std::optional<FileFacts> fileFacts(const std::wstring &path) override;
     std::wstring lastErrorDescription() override;
+    std::vector<std::wstring> filesBelow(const std::wstring &folder) override;
     std::wstring fromAnsi(const std::string &bytes) override;
     std::string toAnsi(const std::wstring &text) override;
     bool shellExecute(const ShellExecuteRequest &request) override;

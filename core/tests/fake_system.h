@@ -115,6 +115,13 @@ public:
     std::wstring lastErrorDescription() override {
         return errorDescription;
     }
+    std::vector<std::wstring> filesBelow(S folder) override {
+        std::vector<std::wstring> found;
+        for (const auto &[path, bytes] : files)
+            if (path.starts_with(folder + L"\\"))
+                found.push_back(path);
+        return found;
+    }
     std::wstring fromAnsi(const std::string &bytes) override {
         return DecodeWindows1252(bytes);
     }

@@ -42,9 +42,14 @@ protected:
     RecordingSystem sys;
 };
 
-TEST_F(RealSystem, FilesAndFoldersAreToldApart) {
+TEST_F(RealSystem, FilesAndFoldersAreToldApartAndListedBelowAFolder) {
     const std::wstring file = folder + L"\\a file.txt";
     WriteBytes(file, "x");
+    CreateDirectoryW((folder + L"\\sub").c_str(), nullptr);
+    WriteBytes(folder + L"\\sub\\b.lnk", "x");
+    auto below = sys.filesBelow(folder + L"\\");
+    std::ranges::sort(below);
+    EXPECT_EQ(below, (std::vector<std::wstring>{file, folder + L"\\sub\\b.lnk"}));
     const std::tuple<std::wstring, bool, bool> paths[] = {
         // path, a file, a file or folder
         {file, true, true},
