@@ -1,0 +1,94 @@
+// The palette's portable half: everything the bar can start as one list of
+// targets, the ranking of those targets against what the user typed, and the
+// runs remembered since the bar started.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dispatch.h"
+#include "menu.h"
+
+namespace orvane {
+
+class App;
+class Files;
+class Shell;
+struct CustomProgramTable;
+struct WebListContent;
+
+// In the order their targets rank when all else is equal.
+enum class TargetKind : std::uint8_t {
+    Command,       // a main menu item or an icon of the strip with a command
+    CustomProgram, // an entry of the custom program list
+    Website,       // a row of the web list
+    WebGroup,      // a group of the web list
+    Shortcut       // a shortcut or program of the Start menu
+};
+
+struct Target {
+    TargetKind kind = TargetKind::Command;
+    std::wstring name;         // as the list shows it: a caption without "&", a display name, a file name
+    std::wstring folded;       // the name folded to lower case once, so a keystroke only compares
+    std::wstring shortcut;     // a command's shortcut text ("Ctrl+S"); empty otherwise
+    std::wstring_view caption; // a command's caption as the dispatch knows it (with "&")
+    std::wstring_view iconKey; // a command's menu icon key; empty otherwise
+    std::wstring path;         // a custom program's or shortcut's file, for its icon and its start
+    std::size_t index = 0;     // the custom entry, the web row or the web group it stands for
+};
+
+// What the targets are built from, read fresh at each summon.
+struct TargetSources {
+    std::span<const MenuRow> menu;
+    std::span<const StripIcon> strip;
+    const CustomProgramTable *customPrograms = nullptr;
+    const WebListContent *webList = nullptr;
+    std::span<const std::wstring> shortcuts; // full paths
+};
+
+// Commands in menu order (then the strip's commands no menu item has), custom
+// programs, websites, groups, then shortcuts, each in list order.
+std::vector<Target> BuildTargets(const TargetSources &sources);
+
+// The files of the user's and all users' Programs folders, subfolders included,
+// that are ".lnk", ".url" or ".exe" (any case), in a stable order.
+std::vector<std::wstring> StartMenuShortcuts(Files &files, Shell &shell);
+
+// A custom list or web list read quietly for the palette: a file that is
+// missing, unreadable or too large gives an empty list and no message.
+CustomProgramTable QuietCustomList(App &app);
+WebListContent QuietWebList(App &app);
+
+// Lower case for matching: ASCII, Latin-1 and the other European alphabets' capitals.
+wchar_t FoldCase(wchar_t c);
+std::wstring FoldCase(std::wstring_view text);
+
+// The targets run since the bar started, most recent last.
+class RunHistory {
+public:
+    void ran(const Target &target);
+    // 0 for never run; a higher number for a more recent run.
+    std::size_t recency(const Target &target) const;
+
+private:
+    std::vector<std::wstring> runs_; // kind, name and path of each run, oldest first, each once
+};
+
+// The indices of the targets the typed text matches, best first: a name that
+// starts with the text, then a word of the name that starts with it, then the
+// text anywhere, then its letters in order. Ties go to the more recently run,
+// then to the order of the targets. An empty text lists the last ten targets
+// run, most recent first, then all the others in their order.
+std::vector<std::size_t> RankTargets(std::span<const Target> targets, std::wstring_view typed,
+                                     const RunHistory &history);
+
+// Opens a website or group of the web list exactly as the web list window does
+// for its row or group: the chosen browser with that address, or the group's
+// addresses, asking first where the window would ask.
+void OpenWebTarget(App &app, const WebListContent &content, const Target &target);
+
+} // namespace orvane
