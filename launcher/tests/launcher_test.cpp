@@ -85,25 +85,20 @@ struct Bar : MainWindowRoutines {
         calls.push_back(L"input " + preset);
         return typed;
     }
-// Each of the other routines only records that it ran, by the name given.
-#define ORVANE_RECORDS(routine, name)                                                                                  \
-    void routine() override {                                                                                          \
-        calls.push_back(name);                                                                                         \
-    }
-    ORVANE_RECORDS(showAbout, L"about")
-    ORVANE_RECORDS(showProgramLocations, L"locations")
-    ORVANE_RECORDS(showYourProgram, L"your program")
-    ORVANE_RECORDS(toggleDesktop, L"desktop")
-    ORVANE_RECORDS(exitProgram, L"exit")
-    ORVANE_RECORDS(useScreenWidth, L"width")
-    ORVANE_RECORDS(toggleIconStrip, L"icons")
-    ORVANE_RECORDS(chooseSkin, L"skin")
-    ORVANE_RECORDS(toggleTopBottom, L"top/bottom")
-    ORVANE_RECORDS(chooseMenuFont, L"font")
-    ORVANE_RECORDS(showCustomPrograms, L"custom programs")
-    ORVANE_RECORDS(showWebList, L"web list")
-    ORVANE_RECORDS(showWallpaper, L"wallpaper")
-#undef ORVANE_RECORDS
+    // Each of the other routines only records that it ran, by the name given.
+    ORVANE_RECORDS(calls, showAbout, L"about")
+    ORVANE_RECORDS(calls, showProgramLocations, L"locations")
+    ORVANE_RECORDS(calls, showYourProgram, L"your program")
+    ORVANE_RECORDS(calls, toggleDesktop, L"desktop")
+    ORVANE_RECORDS(calls, exitProgram, L"exit")
+    ORVANE_RECORDS(calls, useScreenWidth, L"width")
+    ORVANE_RECORDS(calls, toggleIconStrip, L"icons")
+    ORVANE_RECORDS(calls, chooseSkin, L"skin")
+    ORVANE_RECORDS(calls, toggleTopBottom, L"top/bottom")
+    ORVANE_RECORDS(calls, chooseMenuFont, L"font")
+    ORVANE_RECORDS(calls, showCustomPrograms, L"custom programs")
+    ORVANE_RECORDS(calls, showWebList, L"web list")
+    ORVANE_RECORDS(calls, showWallpaper, L"wallpaper")
     void changeIconSize(int step) override {
         calls.push_back(L"size " + std::to_wstring(step));
     }
