@@ -9,6 +9,12 @@
 
 #include "system.h"
 
+// An override of a routine without arguments that only records, in the named log, that it ran.
+#define ORVANE_RECORDS(log, routine, name)                                                                             \
+    void routine() override {                                                                                          \
+        log.push_back(name);                                                                                           \
+    }
+
 namespace orvane::testing {
 
 struct ShownMessage {
@@ -190,18 +196,10 @@ public:
     bool setClipboardText(S) override {
         return true;
     }
-    void beep() override {
-        journal.push_back(L"beep");
-    }
-    void showWaitCursor() override {
-        journal.push_back(L"wait");
-    }
-    void restoreCursor() override {
-        journal.push_back(L"cursor");
-    }
-    void processPendingEvents() override {
-        journal.push_back(L"events");
-    }
+    ORVANE_RECORDS(journal, beep, L"beep")
+    ORVANE_RECORDS(journal, showWaitCursor, L"wait")
+    ORVANE_RECORDS(journal, restoreCursor, L"cursor")
+    ORVANE_RECORDS(journal, processPendingEvents, L"events")
 };
 
 } // namespace orvane::testing

@@ -42,12 +42,8 @@ public:
         calls.push_back(L"find " + t);
         return 0;
     } // the copy runs on
-    void endProcessNow() override {
-        calls.push_back(L"end");
-    }
-    void initCommonControls() override {
-        calls.push_back(L"initCommonControls");
-    }
+    ORVANE_RECORDS(calls, endProcessNow, L"end")
+    ORVANE_RECORDS(calls, initCommonControls, L"initCommonControls")
     WindowRef handle() override {
         return 500;
     }
@@ -72,18 +68,12 @@ public:
     std::int32_t backColor() override {
         return 0xF0F0F0;
     }
-    void layIconStrip() override {
-        calls.push_back(L"iconStrip");
-    }
+    ORVANE_RECORDS(calls, layIconStrip, L"iconStrip")
     void applySkin(S skin) override {
         calls.push_back(L"skin " + skin);
     }
-    void buildMenuBar() override {
-        calls.push_back(L"menuBar");
-    }
-    void takeOpeningSize() override {
-        calls.push_back(L"openingSize");
-    }
+    ORVANE_RECORDS(calls, buildMenuBar, L"menuBar")
+    ORVANE_RECORDS(calls, takeOpeningSize, L"openingSize")
 };
 
 class StartUp : public ::testing::Test {

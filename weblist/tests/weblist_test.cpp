@@ -11,7 +11,6 @@
 namespace orvane {
 namespace {
 
-using testing::FakeSystem;
 using A = MessageAnswer;
 
 const std::wstring kSep(kSeparatorMarker);
@@ -78,21 +77,14 @@ TEST(WebListFile, ReadsAndWritesTheDesignedCases) {
     }
 }
 
-class WebListTest : public ::testing::Test {
-protected:
-    WebListTest() {
-        s.WebBrowser1 = L"C:\\B1.exe";
-        s.WebBrowser2 = L"C:\\Program Files\\Web\\b.exe";
-        s.WebBrowserChoice = 2;
-    }
-    FakeSystem sys;
-    App app{sys};
-    Settings &s = app.settings;
-    WebList list{app};
-};
-
 // The checked rows opening in one command line, their path unquoted: the e2e WebList test.
-TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuildsOneCommandLine) {
+TEST(WebList, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuildsOneCommandLine) {
+    testing::FakeSystem sys;
+    App app{sys};
+    app.settings.WebBrowser1 = L"C:\\B1.exe";
+    app.settings.WebBrowser2 = L"C:\\Program Files\\Web\\b.exe";
+    app.settings.WebBrowserChoice = 2;
+    WebList list{app};
     using Op = std::function<bool(WebList &)>;
     // after: the rows, then the groups after a "/"; said: each message, then "start" and each command line, with a
     // "|" after each; answers: Yes, No, Cancel or Ok, one letter each.
@@ -180,7 +172,7 @@ TEST_F(WebListTest, OperationsMoveTextsWhileCheckMarksStayInPlaceAndOpeningBuild
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
-        sys = FakeSystem();
+        sys = testing::FakeSystem();
         list.changed = list.groupShown = false;
         for (const wchar_t answer : std::wstring_view(c.answers))
             sys.answers.push_back(answerOf.at(answer));
