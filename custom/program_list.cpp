@@ -36,20 +36,23 @@ bool LoadCustomList(App &app, CustomProgramTable &table) {
         ReportFileTooLarge(app.prompts, path, file.tooLarge);
         return false;
     }
-    table = {};
     // A file that exists but cannot be opened (locked, no rights) gives an
     // empty table and no message, as the old reader did.
-    if (!file.bytes)
-        return true;
+    table = file.bytes ? ParseCustomList(app.files, app.locale, *file.bytes) : CustomProgramTable{};
+    return true;
+}
+
+CustomProgramTable ParseCustomList(Files &files, Locale &locale, std::string_view bytes) {
+    CustomProgramTable table;
     std::size_t number = 0;
-    for (std::string_view raw : SplitAtCarriageReturns(*file.bytes, 3 * kCustomEntries)) {
-        std::wstring line = app.locale.fromAnsi(std::string(raw));
-        if (ContainsIgnoringCase(line, L".exe") && !app.files.fileExists(line))
+    for (std::string_view raw : SplitAtCarriageReturns(bytes, 3 * kCustomEntries)) {
+        std::wstring line = locale.fromAnsi(std::string(raw));
+        if (ContainsIgnoringCase(line, L".exe") && !files.fileExists(line))
             SwapProgramFilesFolder(line);
         Section(table, number / kCustomEntries)[number % kCustomEntries] = std::move(line);
         ++number;
     }
-    return true;
+    return table;
 }
 
 std::wstring FormatCustomList(CustomProgramTable &table) {

@@ -6,10 +6,13 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace orvane {
 
 class App;
+class Files;
+class Locale;
 
 inline constexpr std::size_t kCustomEntries = 64;
 
@@ -30,6 +33,9 @@ struct CustomProgramTable {
 // the result is true. Program Files paths that are missing are swapped for
 // their (x86) twin, and back.
 bool LoadCustomList(App &app, CustomProgramTable &table);
+
+// The table a list file's bytes hold, with the same swap of Program Files paths.
+CustomProgramTable ParseCustomList(Files &files, Locale &locale, std::string_view bytes);
 
 // The file's content: always 192 lines ending in CR LF. The path and folder of
 // an empty entry are cleared, in the table as well.

@@ -3,6 +3,7 @@
 // runs remembered since the bar started.
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -12,14 +13,14 @@
 
 #include "dispatch.h"
 #include "menu.h"
+#include "program_list.h"
+#include "web_list_file.h"
 
 namespace orvane {
 
 class App;
 class Files;
 class Shell;
-struct CustomProgramTable;
-struct WebListContent;
 
 // In the order their targets rank when all else is equal.
 enum class TargetKind : std::uint8_t {
@@ -32,13 +33,17 @@ enum class TargetKind : std::uint8_t {
 
 struct Target {
     TargetKind kind = TargetKind::Command;
-    std::wstring name;         // as the list shows it: a caption without "&", a display name, a file name
-    std::wstring folded;       // the name folded to lower case once, so a keystroke only compares
-    std::wstring shortcut;     // a command's shortcut text ("Ctrl+S"); empty otherwise
-    std::wstring_view caption; // a command's caption as the dispatch knows it (with "&")
-    std::wstring_view iconKey; // a command's menu icon key; empty otherwise
-    std::wstring path;         // a custom program's or shortcut's file, for its icon and its start
-    std::size_t index = 0;     // the custom entry, the web row or the web group it stands for
+    std::wstring name{};         // as the list shows it: a caption without "&", a display name, a file name
+    std::wstring folded{};       // the name folded to lower case once, so a keystroke only compares
+    std::wstring shortcut{};     // a command's shortcut text ("Ctrl+S"); empty otherwise
+    std::wstring_view caption{}; // a command's caption as the dispatch knows it (with "&")
+    std::wstring_view iconKey{}; // a command's menu icon key; empty otherwise
+    // The command a Command target runs (MainCommands::run): the strip's webmail
+    // icon shares its caption with the menu item that asks for the address, so
+    // only this reaches its own command. Null for the other kinds.
+    const DispatchRow *command = nullptr;
+    std::wstring path{};   // a custom program's or shortcut's file, for its icon and its start
+    std::size_t index = 0; // the custom entry, the web row or the web group it stands for
 };
 
 // What the targets are built from, read fresh at each summon.
@@ -75,7 +80,12 @@ public:
     std::size_t recency(const Target &target) const;
 
 private:
-    std::vector<std::wstring> runs_; // kind, name and path of each run, oldest first, each once
+    struct Run {
+        TargetKind kind;
+        std::wstring name, path, caption;
+    };
+    std::vector<Run> runs_;  // oldest first, each once
+    std::bitset<256> heard_; // the runs' quick signatures: most targets are told apart without a comparison
 };
 
 // The indices of the targets the typed text matches, best first: a name that
