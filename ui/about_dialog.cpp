@@ -36,7 +36,8 @@ std::wstring ProductVersion() {
 
 class AboutDialog : public ModalDialog {
 public:
-    AboutDialog(App &app, Skin &skin) : ModalDialog(skin), app_(app) {
+    AboutDialog(App &app, Skin &skin, bool paletteKeyTaken)
+        : ModalDialog(skin), app_(app), paletteKeyTaken_(paletteKeyTaken) {
     }
 
 private:
@@ -46,6 +47,8 @@ private:
             LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
         SendDlgItemMessageW(hwnd(), IDC_ABOUT_PICTURE, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon_.get()));
         setItemText(IDC_ABOUT_VERSION, L"Version " + ProductVersion());
+        if (paletteKeyTaken_)
+            setItemText(IDC_ABOUT_HOTKEY, L"Ctrl+Alt+Space is taken by another program, so the palette has no hotkey.");
         SetFocus(GetDlgItem(hwnd(), IDOK));
     }
     void onCommand(int id, int code) override {
@@ -56,13 +59,14 @@ private:
     }
 
     App &app_;
+    bool paletteKeyTaken_;
     UniqueIcon icon_;
 };
 
 } // namespace
 
-void ShowAboutDialog(App &app, Skin &skin, HWND owner) {
-    AboutDialog(app, skin).show(owner, IDD_ABOUT);
+void ShowAboutDialog(App &app, Skin &skin, HWND owner, bool paletteKeyTaken) {
+    AboutDialog(app, skin, paletteKeyTaken).show(owner, IDD_ABOUT);
 }
 
 } // namespace orvane::ui

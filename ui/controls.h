@@ -62,6 +62,22 @@ public:
     void setItemState(int row, UINT state, UINT mask) const {
         ListView_SetItemState(window_, row, state, mask);
     }
+    // The selected row of a list of one selection; -1 when there is none.
+    int selectedRow() const {
+        return nextItem(-1, LVNI_SELECTED);
+    }
+    // This row alone selected and current, scrolled into view; -1: none.
+    void selectOnly(int row) const {
+        setItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+        if (row < 0)
+            return;
+        setItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        ensureVisible(row);
+    }
+    // The rows the list shows whole at once.
+    int rowsPerPage() const {
+        return ListView_GetCountPerPage(window_);
+    }
     void ensureVisible(int row) const {
         ListView_EnsureVisible(window_, row, FALSE);
     }

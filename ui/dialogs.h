@@ -19,8 +19,8 @@ namespace orvane::ui {
 
 class Skin;
 
-// The program's icon, name, version and what it is.
-void ShowAboutDialog(App &app, Skin &skin, HWND owner);
+// The program's icon, name, version and what it is, and whether another program holds the palette's hot key.
+void ShowAboutDialog(App &app, Skin &skin, HWND owner, bool paletteKeyTaken);
 // Today's date and the running time; the first click or key closes it.
 void ShowClockWindow(Skin &skin, HWND owner);
 // The shared input box: the text typed, or empty when cancelled.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <windows.h>
+#include <commctrl.h>
 #include <shldisp.h>
 #include <shlobj.h>
 
@@ -96,6 +97,19 @@ using UniqueAccelerators = Unique<NullTraits<HACCEL, DestroyAcceleratorTable>>;
 using UniqueHook = Unique<NullTraits<HHOOK, UnhookWindowsHookEx>>;
 using UniqueView = Unique<NullTraits<void *, UnmapViewOfFile>>;
 using UniqueItemList = Unique<NullTraits<PIDLIST_ABSOLUTE, ILFree>>;
+using UniqueImageList = Unique<NullTraits<HIMAGELIST, ImageList_Destroy>>;
+
+// A hot key the window holds under this identifier: the window is kept, so the key is given up once.
+template <int Id> struct HotKeyTraits {
+    using Type = HWND;
+    static Type invalid() {
+        return nullptr;
+    }
+    static void close(Type window) {
+        UnregisterHotKey(window, Id);
+    }
+};
+template <int Id> using UniqueHotKey = Unique<HotKeyTraits<Id>>;
 
 // COM and its automation strings, bound at first use: importing ole32 and
 // oleaut32 costs every start for the few commands that need them.

@@ -149,7 +149,7 @@ void IconStrip::loadIcons() {
     const auto icons = StripIcons();
     for (int i = 0; i < kIconCount; ++i) {
         const std::wstring_view key = icons[static_cast<std::size_t>(i)].iconKey;
-        const auto pixels = PixelsAtSize(kFirstMenuIcon + _wtoi(std::wstring(key.substr(1)).c_str()), size);
+        const auto pixels = PixelsAtSize(kFirstMenuIcon + MenuIconNumber(key), size);
         if (pixels.size() != static_cast<std::size_t>(size) * size)
             continue;
         for (int y = 0; y < size; ++y)

@@ -64,6 +64,7 @@ bool MainWindow::open() {
 
     if (LoadMainWindow(app_, host_, state_) == LoadOutcome::HandedOver)
         return false;
+    paletteHotKey_ = RegisterPaletteHotKey(hwnd()); // another program may hold it: then the About box says so
     ShowWindow(hwnd(), SW_SHOWNORMAL);
     UpdateWindow(hwnd());
     return true;
@@ -73,6 +74,7 @@ void MainWindow::unload() {
     if (std::exchange(unloaded_, true))
         return;
     UnloadMainWindow(app_, host_);
+    paletteHotKey_.reset();
     shell32_.reset();
 }
 
@@ -134,6 +136,10 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         }
         break;
+    case WM_HOTKEY:
+        if (wParam == kPaletteHotKeyId)
+            palette_.summon();
+        return 0;
     case WM_MENUCHAR:
         if (!(HIWORD(wParam) & MF_SYSMENU))
             return menuBar_.menuChar(LOWORD(wParam), reinterpret_cast<HMENU>(lParam));

@@ -10,6 +10,7 @@
 #include "layout.h"
 #include "lifecycle.h"
 #include "menu_bar.h"
+#include "palette_window.h"
 #include "program_list.h"
 #include "window_base.h"
 
@@ -135,6 +136,9 @@ private:
     IconStrip strip_{skin_, [this](int index) {
                          commands_.runIcon(index);
                      }};
+    // Brought up by Ctrl+Alt+Space while the bar holds that key.
+    PaletteWindow palette_{app_, skin_, commands_, *this};
+    PaletteHotKey paletteHotKey_;
     MainWindowState state_;
     bool layoutDone_ = true; // false while "&Icons" rearranges the window
     UniqueModule shell32_;

@@ -84,7 +84,7 @@ std::wstring MainWindow::Routines::inputBox(const std::wstring &prompt, const st
     return ShowInputBox(window_.app_, window_.skin_, window_.hwnd(), prompt, preset);
 }
 void MainWindow::Routines::showAbout() {
-    ShowAboutDialog(window_.app_, window_.skin_, window_.hwnd());
+    ShowAboutDialog(window_.app_, window_.skin_, window_.hwnd(), !window_.paletteHotKey_);
 }
 void MainWindow::Routines::showProgramLocations() {
     ShowProgramLocations(window_.app_, window_.skin_, window_.hwnd());

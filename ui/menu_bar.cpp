@@ -10,10 +10,6 @@ namespace orvane::ui {
 
 namespace {
 
-int IconNumber(std::wstring_view key) {
-    return key.size() > 1 ? _wtoi(std::wstring(key.substr(1)).c_str()) : 0;
-}
-
 std::wstring ItemText(const MenuRow &row) {
     const std::wstring shortcut = ShortcutText(row.shortcut);
     return std::wstring(row.caption) + (shortcut.empty() ? L"" : L"\t" + shortcut);
@@ -168,9 +164,18 @@ HICON MenuBar::icon(int key) const {
         return nullptr;
     UniqueIcon &icon = icons_[static_cast<std::size_t>(key)];
     if (!icon)
-        icon.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kFirstMenuIcon + key),
-                                                 IMAGE_ICON, scaled(16), scaled(16), LR_DEFAULTCOLOR)));
+        icon = LoadMenuIcon(key, scaled(16));
     return icon.get();
+}
+
+int MenuIconNumber(std::wstring_view key) {
+    return key.size() > 1 ? _wtoi(std::wstring(key.substr(1)).c_str()) : 0;
+}
+
+UniqueIcon LoadMenuIcon(int number, int pixels) {
+    return UniqueIcon(
+        static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kFirstMenuIcon + number), IMAGE_ICON,
+                                      pixels, pixels, LR_DEFAULTCOLOR)));
 }
 
 std::wstring MenuBar::caption(HWND window, UINT command) const {
@@ -254,7 +259,7 @@ bool MenuBar::draw(const DRAWITEMSTRUCT &item) const {
         return true;
     }
     const int iconSize = scaled(16);
-    if (HICON icon = this->icon(IconNumber(row.iconKey)))
+    if (HICON icon = this->icon(MenuIconNumber(row.iconKey)))
         DrawIconEx(dc, r.left + scaled(4), (r.top + r.bottom - iconSize) / 2, icon, iconSize, iconSize, 0, nullptr,
                    DI_NORMAL);
     HGDIOBJ previous = SelectObject(dc, font());

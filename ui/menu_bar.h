@@ -9,6 +9,7 @@
 #include <array>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "appearance.h"
 #include "handles.h"
@@ -22,6 +23,11 @@ class Skin;
 inline constexpr UINT kFirstMenuCommand = 1000;
 // Icon resources: this plus the number of the icon key ("k47" is 1047).
 inline constexpr int kFirstMenuIcon = 1000;
+
+// The number of a menu icon key ("k47" is 47); 0 for none.
+int MenuIconNumber(std::wstring_view key);
+// That menu icon at this size in pixels; null when the resources lack it.
+UniqueIcon LoadMenuIcon(int number, int pixels);
 
 class MenuBar {
 public:

@@ -65,7 +65,7 @@ private:
     std::vector<std::wstring> names_, programs_;
     std::vector<int> icons_;      // in the system image list; -1 none, -2 not asked yet
     HIMAGELIST images_ = nullptr; // the system's own, never destroyed here
-    Unique<NullTraits<HIMAGELIST, ImageList_Destroy>> rowHeight_;
+    UniqueImageList rowHeight_;
     POINT hot_{-1, -1}; // the cell under the pointer: row, column
 };
 
