@@ -184,15 +184,22 @@ std::vector<Target> BuildTargets(const TargetSources &sources) {
     return targets;
 }
 
-std::vector<std::wstring> StartMenuShortcuts(Files &files, Shell &shell) {
-    std::vector<std::wstring> shortcuts;
+std::vector<std::wstring> StartMenuFolders(Shell &shell) {
+    std::vector<std::wstring> folders;
     const std::wstring user = CutAtNul(shell.specialFolder(kUserPrograms));
     const std::wstring common = CutAtNul(shell.specialFolder(kCommonPrograms));
-    for (const std::wstring *folder : {&user, &common}) {
-        if (folder->empty() || (folder == &common && FoldCase(common) == FoldCase(user)))
-            continue;
+    if (!user.empty())
+        folders.push_back(user);
+    if (!common.empty() && FoldCase(common) != FoldCase(user))
+        folders.push_back(common);
+    return folders;
+}
+
+std::vector<std::wstring> StartMenuShortcuts(Files &files, std::span<const std::wstring> folders) {
+    std::vector<std::wstring> shortcuts;
+    for (const std::wstring &folder : folders) {
         std::vector<std::pair<std::wstring, std::wstring>> found; // folded and as given
-        for (std::wstring &path : files.filesBelow(*folder))
+        for (std::wstring &path : files.filesBelow(folder))
             if (IsStartable(path))
                 found.emplace_back(FoldCase(path), std::move(path));
         std::ranges::sort(found);

@@ -59,9 +59,12 @@ struct TargetSources {
 // programs, websites, groups, then shortcuts, each in list order.
 std::vector<Target> BuildTargets(const TargetSources &sources);
 
-// The files of the user's and all users' Programs folders, subfolders included,
-// that are ".lnk", ".url" or ".exe" (any case), in a stable order.
-std::vector<std::wstring> StartMenuShortcuts(Files &files, Shell &shell);
+// The user's and all users' Start menu Programs folders, each once. Asking the
+// shell for them is slow next to the rest of a summon, and they do not move.
+std::vector<std::wstring> StartMenuFolders(Shell &shell);
+// The files of those folders, subfolders included, that are ".lnk", ".url" or
+// ".exe" (any case), each folder's sorted case-insensitively.
+std::vector<std::wstring> StartMenuShortcuts(Files &files, std::span<const std::wstring> folders);
 
 // A custom list or web list read quietly for the palette: a file that is
 // missing, unreadable or too large gives an empty list and no message.

@@ -68,7 +68,7 @@ void PaletteWindow::summon() {
         SetWindowTextW(field_, L""); // ranks anew
     else
         rank();
-    layout();
+    layout(false);
     ShowWindow(hwnd(), SW_SHOW);
     SetForegroundWindow(hwnd());
     SetFocus(field_);
@@ -79,7 +79,8 @@ bool PaletteWindow::createWindow() {
     paletteClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     paletteClass.lpszClassName = kPaletteClass;
     registerClass(paletteClass);
-    if (!create(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kPaletteClass, L"Orvane palette", WS_POPUP | WS_BORDER, nullptr))
+    if (!create(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kPaletteClass, L"Orvane palette",
+                WS_POPUP | WS_BORDER | WS_CLIPCHILDREN, nullptr))
         return false;
     const HINSTANCE instance = GetModuleHandleW(nullptr);
     field_ = CreateWindowExW(WS_EX_CLIENTEDGE, L"Edit", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL, 0, 0,
@@ -90,7 +91,8 @@ bool PaletteWindow::createWindow() {
                                      WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                                          LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
                                      0, 0, 0, 0, hwnd(), reinterpret_cast<HMENU>(kListId), instance, nullptr));
-    list_.setExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+    // No double buffer: its bitmap costs more memory than the whole list; a re-rank repaints without erasing.
+    list_.setExtendedStyle(LVS_EX_FULLROWSELECT);
     for (std::size_t column = 0; column < kColumns.size(); ++column)
         list_.insertColumn(static_cast<int>(column), kColumns[column].title, 0);
     skin_.join(hwnd());
@@ -101,7 +103,9 @@ bool PaletteWindow::createWindow() {
 void PaletteWindow::collectTargets() {
     customPrograms_ = QuietCustomList(app_);
     webList_ = QuietWebList(app_);
-    shortcuts_ = StartMenuShortcuts(app_.files, app_.shell);
+    if (startMenuFolders_.empty())
+        startMenuFolders_ = StartMenuFolders(app_.shell);
+    shortcuts_ = StartMenuShortcuts(app_.files, startMenuFolders_);
     targets_ = BuildTargets({MainMenuRows(), StripIcons(), &customPrograms_, &webList_, shortcuts_});
 }
 
@@ -126,11 +130,12 @@ void PaletteWindow::fitDpi() {
     images_ = std::move(images);
     menuImages_.clear();
     shellImages_.clear();
-    layout();
+    layout(true);
 }
 
-// Centred on the primary monitor's work area, in its upper third.
-void PaletteWindow::layout() {
+// Centred on the primary monitor's work area, in its upper third. A summon moves
+// nothing unless the work area changed, so the window is not laid out for nothing.
+void PaletteWindow::layout(bool fresh) {
     const UINT dpi = WindowDpi(hwnd());
     LOGFONTW face{};
     GetObjectW(font_.get(), sizeof face, &face);
@@ -145,6 +150,10 @@ void PaletteWindow::layout() {
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
     const int left = area.left + (area.right - area.left - width) / 2;
     const int top = std::max(area.top, area.top + (area.bottom - area.top) / 3 - height / 2);
+    RECT now{};
+    GetWindowRect(hwnd(), &now);
+    if (!fresh && now.left == left && now.top == top && now.right - now.left == width && now.bottom - now.top == height)
+        return;
     SetWindowPos(hwnd(), HWND_TOPMOST, left, top, width, height, SWP_NOACTIVATE);
     RECT client{};
     GetClientRect(hwnd(), &client);

@@ -46,7 +46,7 @@ private:
     void rank();
     // The font, the icons and the layout at the window's DPI.
     void fitDpi();
-    void layout();
+    void layout(bool fresh);
     void hide(bool backToPrevious);
     void move(int rows);
     void run(int row);
@@ -71,6 +71,7 @@ private:
     // What this summon lists, read fresh each time.
     CustomProgramTable customPrograms_;
     WebListContent webList_;
+    std::vector<std::wstring> startMenuFolders_; // asked of the shell once
     std::vector<std::wstring> shortcuts_;
     std::vector<Target> targets_;
     std::vector<std::size_t> order_; // the targets shown, by their index, best first

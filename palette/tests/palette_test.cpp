@@ -64,9 +64,9 @@ TEST(Palette, ReadsItsSourcesQuietlyAndOpensWebTargetsAsTheWebListWindowDoes) {
     for (const wchar_t *path : {L"C:\\U\\S\\a.lnk", L"C:\\U\\B.LNK", L"C:\\U\\r.txt", L"C:\\A\\y.exe", L"C:\\A\\x.url"})
         sys.addFile(path);
     const std::vector<std::wstring> all{L"C:\\U\\B.LNK", L"C:\\U\\S\\a.lnk", L"C:\\A\\x.url", L"C:\\A\\y.exe"};
-    EXPECT_EQ(StartMenuShortcuts(sys, sys), all);
+    EXPECT_EQ(StartMenuShortcuts(sys, StartMenuFolders(sys)), all);
     sys.common = L"c:\\u"; // given twice: listed once
-    EXPECT_EQ(StartMenuShortcuts(sys, sys), std::vector(all.begin(), all.begin() + 2));
+    EXPECT_EQ(StartMenuShortcuts(sys, StartMenuFolders(sys)), std::vector(all.begin(), all.begin() + 2));
     EXPECT_EQ(QuietWebList(app), WebListContent{}); // missing; fresh settings name both lists ""
     sys.addFile(L"", std::string(kMostFileBytes + 1, 'x'));
     EXPECT_EQ(QuietCustomList(app), CustomProgramTable{}); // too large
