@@ -21,7 +21,8 @@ struct ProgramWindow {
 };
 
 // The bar's dialogs, the skin chooser, the clock, the custom programs window with its editor and their dialogs, the
-// web list and the wallpaper. The shell's folder dialog is the system's, not the program's, and is left out.
+// web list, the wallpaper and the palette. The shell's folder dialog is the system's, not the program's, and is left
+// out.
 extern const std::vector<ProgramWindow> kProgramWindows;
 
 // Picks the window's menu item with this caption; the dialog with this title it opens, once it shows, else null.
