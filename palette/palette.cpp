@@ -49,7 +49,8 @@ void AddCommands(std::vector<Target> &targets, const TargetSources &sources) {
         Add(targets, {.name = WithoutAccessMarks(icon.row.caption),
                       .caption = icon.row.caption,
                       .iconKey = icon.iconKey,
-                      .command = &icon.row});
+                      .command = &icon.row,
+                      .stripOnly = true});
     }
 }
 

@@ -42,8 +42,9 @@ struct Target {
     // icon shares its caption with the menu item that asks for the address, so
     // only this reaches its own command. Null for the other kinds.
     const DispatchRow *command = nullptr;
-    std::wstring path{};   // a custom program's or shortcut's file, for its icon and its start
-    std::size_t index = 0; // the custom entry, the web row or the web group it stands for
+    bool stripOnly = false; // a command only an icon of the strip has, shown as the strip's own
+    std::wstring path{};    // a custom program's or shortcut's file, for its icon and its start
+    std::size_t index = 0;  // the custom entry, the web row or the web group it stands for
 };
 
 // What the targets are built from, read fresh at each summon.

@@ -37,6 +37,8 @@ struct Column {
 constexpr std::array<Column, 3> kColumns{{{L"Name", 0}, {L"Kind", 84}, {L"Shortcut", 110}}};
 // As the Kind column names each target kind, in the order of TargetKind.
 constexpr std::array<std::wstring_view, 5> kKindNames{L"Command", L"Program", L"Website", L"Group", L"Shortcut"};
+// A command only the icon strip has: its name can be a menu item's too (the webmail icon's is).
+constexpr std::wstring_view kStripKindName = L"Icon";
 // Websites and groups show the custom browser's icon.
 constexpr std::wstring_view kGlobeKey = L"k40";
 
@@ -272,8 +274,9 @@ void PaletteWindow::giveItem(LVITEMW &item) {
         return;
     const Target &target = targets_[order_[static_cast<std::size_t>(item.iItem)]];
     if ((item.mask & LVIF_TEXT) && item.cchTextMax > 0) {
-        const std::wstring_view texts[] = {target.name, kKindNames[static_cast<std::size_t>(target.kind)],
-                                           target.shortcut};
+        const std::wstring_view kind =
+            target.stripOnly ? kStripKindName : kKindNames[static_cast<std::size_t>(target.kind)];
+        const std::wstring_view texts[] = {target.name, kind, target.shortcut};
         const std::wstring text(texts[std::clamp(item.iSubItem, 0, 2)]);
         lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
     }

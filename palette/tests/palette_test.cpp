@@ -45,10 +45,11 @@ TEST(Palette, BuildsCommandsProgramsWebsitesGroupsAndShortcutsInOrder) {
     for (const Target &t : BuildTargets({MainMenuRows(), StripIcons(), &table, &web, shortcuts}))
         if (t.kind != K::Command || t.name.starts_with(L"E") || t.name.starts_with(L"We") || t.name.ends_with(L"|"))
             shown += t.name + L"," + t.shortcut + L"," + std::wstring(t.iconKey) + L"," + t.path + L"," +
-                     std::to_wstring(t.index) + L" ";
-    EXPECT_EQ(shown, L"Exit,Alt+Q,k6,,0 E-mail manager,Ctrl+Shift+E,k49,,0 Excel,Ctrl+Shift+X,k16,,0 Web interface "
-                     L"URL,Ctrl+Alt+F5,k30,,0 Web interface URL,,k30,,0 Editor,,,C:\\e.exe,0 Mail,,,,2 News,,,,0 "
-                     L"b.org,,,,3 a b,,,,0 Word Pad,,,C:\\S\\Word Pad.lnk,0 "); // the second URL item: the strip's
+                     std::to_wstring(t.index) + (t.stripOnly ? L"*" : L"") + L" ";
+    EXPECT_EQ(shown,
+              L"Exit,Alt+Q,k6,,0 E-mail manager,Ctrl+Shift+E,k49,,0 Excel,Ctrl+Shift+X,k16,,0 Web interface "
+              L"URL,Ctrl+Alt+F5,k30,,0 Web interface URL,,k30,,0* Editor,,,C:\\e.exe,0 Mail,,,,2 News,,,,0 "
+              L"b.org,,,,3 a b,,,,0 Word Pad,,,C:\\S\\Word Pad.lnk,0 "); // the second URL item: the strip's, marked *
 }
 
 struct Machine : testing::FakeSystem {
