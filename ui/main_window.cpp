@@ -64,9 +64,10 @@ bool MainWindow::open() {
 
     if (LoadMainWindow(app_, host_, state_) == LoadOutcome::HandedOver)
         return false;
-    paletteHotKey_ = RegisterPaletteHotKey(hwnd()); // another program may hold it: then the About box says so
     ShowWindow(hwnd(), SW_SHOWNORMAL);
     UpdateWindow(hwnd());
+    // After the first paint, which waits for nothing else; another program may hold it: then the About box says so.
+    paletteHotKey_ = RegisterPaletteHotKey(hwnd());
     return true;
 }
 
