@@ -3,6 +3,8 @@
 // place in the bar starts them; Esc hides it; a hot key held elsewhere is told.
 #include <gtest/gtest.h>
 
+#include <shlobj.h>
+
 #include <cctype>
 
 #include "program_test.h"
@@ -38,7 +40,22 @@ protected:
     HWND other_ = nullptr;
 };
 
-TEST_F(Palette, ACommandAProgramAndAWebsiteStartAsFromTheirOwnPlacesAndEscHidesIt) {
+// A program in a folder of its own in the user's Start menu, gone with the test.
+struct StartMenuProgram {
+    std::wstring folder;
+    StartMenuProgram() {
+        wchar_t programs[MAX_PATH] = {};
+        SHGetFolderPathW(nullptr, CSIDL_PROGRAMS, nullptr, SHGFP_TYPE_CURRENT, programs);
+        folder = FreshFolder(programs, L"Orvane palette test");
+        CopyInto(EnvironmentPath(L"ORVANE_PROBE"), folder, L"Zz probe.exe");
+    }
+    ~StartMenuProgram() {
+        RemoveTree(folder);
+    }
+};
+
+TEST_F(Palette, ACommandAProgramAWebsiteAndAShortcutStartAsFromTheirOwnPlacesAndEscHidesIt) {
+    const StartMenuProgram shortcut;
     CreateDirectoryW(file(L"start").c_str(), nullptr);
     CreateDirectoryW(file(L"My Browser").c_str(), nullptr);
     for (const wchar_t *name : {L"TS_Files.exe", L"run me.exe"})
@@ -51,15 +68,18 @@ TEST_F(Palette, ACommandAProgramAndAWebsiteStartAsFromTheirOwnPlacesAndEscHidesI
         start({{20, Utf8(folder.path())}, {28, path(L"My.lst")}, {33, path(L"Sites.lst")}, {35, browser}, {37, "2"}});
     ASSERT_NE(bar, nullptr);
 
-    // What is typed, the row it brings first, and the start the probe records, as the menu, grid and web list do.
+    // What is typed, the row it brings first, and the start the probe records, as the menu, grid, web list and the
+    // shell's "open" do.
     const struct {
         std::string typed;
         std::wstring first, log;
         std::string commandLine, folder;
     } cases[] = {
-        {"file man", L"File manager", L"probe.log", "\"" + path(L"TS_Files.exe") + "\"", Utf8(folder.path())},
-        {"zeta", L"Zeta tool", L"probe.log", path(L"run me.exe"), path(L"start")},
-        {"alpha s", L"Alpha site", L"My Browser\\probe.log", browser + " http://alpha", ""},
+        {"file man", L"File manager", file(L"probe.log"), "\"" + path(L"TS_Files.exe") + "\"", Utf8(folder.path())},
+        {"zeta", L"Zeta tool", file(L"probe.log"), path(L"run me.exe"), path(L"start")},
+        {"alpha s", L"Alpha site", file(L"My Browser\\probe.log"), browser + " http://alpha", ""},
+        {"zz pro", L"Zz probe", shortcut.folder + L"\\probe.log", "\"" + Utf8(shortcut.folder) + "\\Zz probe.exe\"",
+         Utf8(shortcut.folder)},
     };
     std::map<std::wstring, std::size_t> runs;
     for (const auto &c : cases) {
@@ -73,7 +93,7 @@ TEST_F(Palette, ACommandAProgramAndAWebsiteStartAsFromTheirOwnPlacesAndEscHidesI
         }));
         PressKeys(palette, {VK_RETURN});
         EXPECT_TRUE(Becomes(FALSE, IsWindowVisible, palette));
-        const ProbeRecord started = ReadProbeLog(file(c.log), ++runs[c.log]).at(runs[c.log] - 1);
+        const ProbeRecord started = ReadProbeLog(c.log, ++runs[c.log]).at(runs[c.log] - 1);
         EXPECT_EQ(started.commandLine, c.commandLine);
         EXPECT_EQ(started.folder, c.folder.empty() ? started.folder : c.folder) << "the browser's folder is any";
     }
