@@ -56,8 +56,7 @@ int wmain(int argc, wchar_t **argv) {
     if (step == L"pick")
         return e2e::PickMenuItem(bar, argv[2]) ? 0 : 1;
     if (step == L"palette") {
-        e2e::PressKeys(bar, {VK_CONTROL, VK_MENU, VK_SPACE});
-        HWND palette = FindProcessWindow(0, L"Orvane.Palette", nullptr, kLong);
+        HWND palette = e2e::SummonPalette(0, bar);
         for (const wchar_t *letter = argv[2]; palette && *letter; ++letter)
             e2e::PressKeys(palette, {static_cast<WORD>(towupper(*letter))});
         return PrintRect(palette);

@@ -7,6 +7,7 @@
 
 #include <cctype>
 
+#include "handles.h"
 #include "program_test.h"
 #include "resource.h"
 
@@ -26,11 +27,9 @@ protected:
     void TearDown() override {
         DestroyWindow(other_);
     }
-    // Ctrl+Alt+Space pressed in the other program's window; the palette once it shows.
+    // Ctrl+Alt+Space pressed in the other program's window.
     HWND summon() const {
-        PressKeys(other_, {VK_CONTROL, VK_MENU, VK_SPACE});
-        HWND palette = FindProcessWindow(orvane->id(), L"Orvane.Palette", nullptr, 5s);
-        return palette && Becomes(TRUE, IsWindowVisible, palette) ? palette : nullptr;
+        return SummonPalette(orvane->id(), other_);
     }
     static void Type(HWND window, const std::string &text) {
         for (char c : text)
@@ -115,13 +114,8 @@ TEST_F(Palette, ACommandAProgramAWebsiteAndAShortcutStartAsFromTheirOwnPlacesAnd
 }
 
 TEST_F(Palette, AHotKeyHeldByAnotherProgramIsToldInTheAboutBox) {
-    struct HeldHere {
-        const bool held = RegisterHotKey(nullptr, 1, MOD_CONTROL | MOD_ALT, VK_SPACE);
-        ~HeldHere() {
-            UnregisterHotKey(nullptr, 1);
-        }
-    } key;
-    ASSERT_TRUE(key.held);
+    const ui::UniqueHotKey<1> held(RegisterHotKey(other_, 1, MOD_CONTROL | MOD_ALT, VK_SPACE) ? other_ : nullptr);
+    ASSERT_TRUE(held);
     HWND about = open({}, L"&About this program", L"About Orvane");
     ASSERT_NE(about, nullptr);
     EXPECT_EQ(ControlText(about, IDC_ABOUT_HOTKEY),

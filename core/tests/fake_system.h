@@ -75,6 +75,7 @@ public:
     bool shellAccepts = true;
     std::vector<TopLevelWindow> windows;
     OsVersion version{6, 1};
+    std::map<int, std::wstring> specialFolders;           // by their numbers; none when not given
     std::vector<std::optional<std::wstring>> fileAnswers; // consumed in order; cancelled when empty
     std::vector<MessageAnswer> answers;                   // consumed in order; Ok when empty
     DateTime fileTime{2025, 3, 4, 2, 17, 30, 0};
@@ -163,8 +164,8 @@ public:
     std::optional<std::wstring> registryString(RegistryRoot, S, S) override {
         return std::nullopt;
     }
-    std::wstring specialFolder(int) override {
-        return {};
+    std::wstring specialFolder(int csidl) override {
+        return specialFolders[csidl];
     }
     OsVersion osVersion() override {
         return version;

@@ -93,15 +93,18 @@ const std::vector<ProgramWindow> kProgramWindows = {
      EscapeToBar},
     {L"web list", FROM_MENU(L"Open &web list", L"Website list*"), EscapeToBar},
     {L"wallpaper", FROM_MENU(L"Wa&llpaper", L"Wallpaper"), LeaveWallpaper},
-    {L"palette", [](const OrvaneProcess& o, HWND bar) {
-        PressKeys(bar, {VK_CONTROL, VK_MENU, VK_SPACE});
-        HWND palette = FindProcessWindow(o.id(), L"Orvane.Palette", nullptr, 5s);
-        return palette && WaitFor([&] { return IsWindowVisible(palette) != FALSE; }, 5s) ? palette : nullptr; },
+    {L"palette", [](const OrvaneProcess& o, HWND bar) { return SummonPalette(o.id(), bar); },
      [](const OrvaneProcess&, HWND palette) {  // hidden, kept for the next summon
         PressKeys(palette, {VK_ESCAPE});
         return WaitFor([&] { return !IsWindowVisible(palette); }, 5s); }},
 };
 // clang-format on
+
+HWND SummonPalette(DWORD processId, HWND window) {
+    PressKeys(window, {VK_CONTROL, VK_MENU, VK_SPACE});
+    HWND palette = FindProcessWindow(processId, L"Orvane.Palette", nullptr, 5s);
+    return palette && WaitFor([&] { return IsWindowVisible(palette) != FALSE; }, 5s) ? palette : nullptr;
+}
 
 bool AnswerPassword(DWORD processId, const std::wstring &typed) {
     HWND box = WaitForDialogTitled(processId, L"Orvane");

@@ -30,6 +30,9 @@ HWND FromMenu(const OrvaneProcess &orvane, HWND window, const wchar_t *caption, 
 // Picks an item of the window's popup menu (Shift+F10) by its access letter, from the keyboard; the dialog with this
 // title it opens, once it shows, else null.
 HWND FromPopupMenu(const OrvaneProcess &orvane, HWND window, WORD letter, const std::wstring &title);
+// Presses Ctrl+Alt+Space in the window, as a user brings up the palette over any program; the palette of the
+// process (of any for 0) once it shows, else null.
+HWND SummonPalette(DWORD processId, HWND window);
 // Types this into the wallpaper's box asking for the return password (of the process, of any for 0) and presses OK;
 // true once the box has gone.
 bool AnswerPassword(DWORD processId, const std::wstring &typed);

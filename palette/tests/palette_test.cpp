@@ -52,21 +52,15 @@ TEST(Palette, BuildsCommandsProgramsWebsitesGroupsAndShortcutsInOrder) {
               L"b.org,,,,3 a b,,,,0 Word Pad,,,C:\\S\\Word Pad.lnk,0 "); // the second URL item: the strip's, marked *
 }
 
-struct Machine : testing::FakeSystem {
-    std::wstring common = L"C:\\A";
-    std::wstring specialFolder(int csidl) override {
-        return csidl == 2 ? L"C:\\U" : common;
-    }
-};
-
 TEST(Palette, ReadsItsSourcesQuietlyAndOpensWebTargetsAsTheWebListWindowDoes) {
-    Machine sys;
+    testing::FakeSystem sys;
+    sys.specialFolders = {{2, L"C:\\U"}, {0x17, L"C:\\A"}}; // the user's and all users' Programs
     App app(sys);
     for (const wchar_t *path : {L"C:\\U\\S\\a.lnk", L"C:\\U\\B.LNK", L"C:\\U\\r.txt", L"C:\\A\\y.exe", L"C:\\A\\x.url"})
         sys.addFile(path);
     const std::vector<std::wstring> all{L"C:\\U\\B.LNK", L"C:\\U\\S\\a.lnk", L"C:\\A\\x.url", L"C:\\A\\y.exe"};
     EXPECT_EQ(StartMenuShortcuts(sys, StartMenuFolders(sys)), all);
-    sys.common = L"c:\\u"; // given twice: listed once
+    sys.specialFolders[0x17] = L"c:\\u"; // given twice: listed once
     EXPECT_EQ(StartMenuShortcuts(sys, StartMenuFolders(sys)), std::vector(all.begin(), all.begin() + 2));
     EXPECT_EQ(QuietWebList(app), WebListContent{}); // missing; fresh settings name both lists ""
     sys.addFile(L"", std::string(kMostFileBytes + 1, 'x'));
