@@ -47,9 +47,7 @@ std::string ListOfPrograms() {
 } // namespace
 
 int wmain(int argc, wchar_t **argv) {
-    int runs = 11;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
-        runs = std::max(3, _wtoi(argv[2]));
+    const int runs = RunsGiven(argc, argv, 11, 3);
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"custom bench");
     const std::wstring full = folder + L"\\Full.lst", empty = folder + L"\\Empty.lst";
     ts::WriteBytes(full, ListOfPrograms());

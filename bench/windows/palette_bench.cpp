@@ -48,9 +48,7 @@ HWND EmptyPopup() {
 } // namespace
 
 int wmain(int argc, wchar_t **argv) {
-    int runs = 11;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
-        runs = std::max(3, _wtoi(argv[2]));
+    const int runs = RunsGiven(argc, argv, 11, 3);
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"palette bench");
     for (const wchar_t *list : {L"Programs.lst", L"Websites.lst"})
         CopyFileW((std::wstring(L"demo\\") + list).c_str(), (folder + L"\\" + list).c_str(), FALSE);

@@ -39,9 +39,7 @@ template <typename Step> double Milliseconds(Step step) {
 } // namespace
 
 int wmain(int argc, wchar_t **argv) {
-    int runs = 21;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
-        runs = std::max(3, _wtoi(argv[2]));
+    const int runs = RunsGiven(argc, argv, 21, 3);
     const std::wstring skins = ts::EnvironmentPath(L"ORVANE_SKINS");
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"skin bench");
     const std::wstring light = skins + L"\\Skin_Alba.bmp", dark = skins + L"\\Skin_Slate.bmp";

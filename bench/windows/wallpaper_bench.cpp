@@ -117,9 +117,7 @@ int ShowAndMeasure(const std::wstring &picture) {
 int wmain(int argc, wchar_t **argv) {
     if (argc == 3 && std::wstring(argv[1]) == L"--show")
         return ShowAndMeasure(argv[2]);
-    int runs = 5;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
-        runs = std::max(1, _wtoi(argv[2]));
+    const int runs = RunsGiven(argc, argv, 5, 1);
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"wallpaper bench"), picture = folder + L"\\8K.png";
     const ULONG_PTR token = orvane::ui::StartImaging();
     const bool written = Write8kPng(picture);

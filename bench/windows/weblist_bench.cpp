@@ -62,9 +62,7 @@ void Save(orvane::App &app, const orvane::WebListContent &list, const std::wstri
 } // namespace
 
 int wmain(int argc, wchar_t **argv) {
-    int runs = 5;
-    if (argc == 3 && std::wstring(argv[1]) == L"--runs")
-        runs = std::max(1, _wtoi(argv[2]));
+    const int runs = RunsGiven(argc, argv, 5, 1);
     const std::wstring folder = ts::FreshFolder(ts::ExeFolder(), L"weblist bench");
     ts::WriteBytes(folder + L"\\Orvane.ini", StripSettings());
 
