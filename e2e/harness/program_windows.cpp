@@ -102,8 +102,7 @@ const std::vector<ProgramWindow> kProgramWindows = {
 
 HWND SummonPalette(DWORD processId, HWND window) {
     PressKeys(window, {VK_CONTROL, VK_MENU, VK_SPACE});
-    HWND palette = FindProcessWindow(processId, L"Orvane.Palette", nullptr, 5s);
-    return palette && WaitFor([&] { return IsWindowVisible(palette) != FALSE; }, 5s) ? palette : nullptr;
+    return FindProcessWindow(processId, L"Orvane.Palette", nullptr, 5s); // only a shown one is found
 }
 
 bool AnswerPassword(DWORD processId, const std::wstring &typed) {
