@@ -35,7 +35,6 @@ void AddCommands(std::vector<Target> &targets, const TargetSources &sources) {
             continue;
         Add(targets, {.name = WithoutAccessMarks(row.caption),
                       .shortcut = ShortcutText(row.shortcut),
-                      .caption = row.caption,
                       .iconKey = row.iconKey,
                       .command = command});
     }
@@ -47,7 +46,6 @@ void AddCommands(std::vector<Target> &targets, const TargetSources &sources) {
         if (std::any_of(targets.begin(), targets.begin() + static_cast<std::ptrdiff_t>(menuCommands), same))
             continue;
         Add(targets, {.name = WithoutAccessMarks(icon.row.caption),
-                      .caption = icon.row.caption,
                       .iconKey = icon.iconKey,
                       .command = &icon.row,
                       .stripOnly = true});
@@ -256,12 +254,15 @@ std::wstring FoldCase(std::wstring_view text) {
     return folded;
 }
 
+bool RunHistory::Run::of(const Target &target) const {
+    return kind == target.kind && name == target.name && path == target.path && command == target.command;
+}
+
 void RunHistory::ran(const Target &target) {
-    const Run run{target.kind, target.name, target.path, std::wstring(target.caption)};
     std::erase_if(runs_, [&](const Run &each) {
-        return each.kind == run.kind && each.name == run.name && each.path == run.path && each.caption == run.caption;
+        return each.of(target);
     });
-    runs_.push_back(run);
+    runs_.push_back({target.kind, target.name, target.path, target.command});
     if (runs_.size() > kMostRuns)
         runs_.erase(runs_.begin());
     heard_.reset();
@@ -272,12 +273,9 @@ void RunHistory::ran(const Target &target) {
 std::size_t RunHistory::recency(const Target &target) const {
     if (!heard_.test(Signature(target.kind, target.name)))
         return 0;
-    for (std::size_t i = runs_.size(); i > 0; --i) {
-        const Run &run = runs_[i - 1];
-        if (run.kind == target.kind && run.name == target.name && run.path == target.path &&
-            run.caption == target.caption)
+    for (std::size_t i = runs_.size(); i > 0; --i)
+        if (runs_[i - 1].of(target))
             return i;
-    }
     return 0;
 }
 

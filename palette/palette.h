@@ -36,7 +36,6 @@ struct Target {
     std::wstring name{};         // as the list shows it: a caption without "&", a display name, a file name
     std::wstring folded{};       // the name folded to lower case once, so a keystroke only compares
     std::wstring shortcut{};     // a command's shortcut text ("Ctrl+S"); empty otherwise
-    std::wstring_view caption{}; // a command's caption as the dispatch knows it (with "&")
     std::wstring_view iconKey{}; // a command's menu icon key; empty otherwise
     // The command a Command target runs (MainCommands::run): the strip's webmail
     // icon shares its caption with the menu item that asks for the address, so
@@ -86,7 +85,9 @@ public:
 private:
     struct Run {
         TargetKind kind;
-        std::wstring name, path, caption;
+        std::wstring name, path;
+        const DispatchRow *command; // tells the strip's webmail from the menu item of the same name
+        bool of(const Target &target) const;
     };
     std::vector<Run> runs_;  // oldest first, each once
     std::bitset<256> heard_; // the runs' quick signatures: most targets are told apart without a comparison
