@@ -64,10 +64,11 @@ bool MainWindow::open() {
 
     if (LoadMainWindow(app_, host_, state_) == LoadOutcome::HandedOver)
         return false;
+    // Held before the bar shows, so the key works as soon as the bar can be seen; another program may hold it: then
+    // the About box says so.
+    paletteHotKey_ = RegisterPaletteHotKey(hwnd());
     ShowWindow(hwnd(), SW_SHOWNORMAL);
     UpdateWindow(hwnd());
-    // After the first paint, which waits for nothing else; another program may hold it: then the About box says so.
-    paletteHotKey_ = RegisterPaletteHotKey(hwnd());
     return true;
 }
 
